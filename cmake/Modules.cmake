@@ -1,0 +1,28 @@
+# add_module(<name> SOURCES ... [LINKS ...] [TESTS ...] [TEST_LINKS ...])
+#
+# One library of src/ and, beside it, its own test program. LINKS names the libraries of the floors below; the test
+# program links its module and what that brings, nothing above, so that a call upward does not link. TEST_LINKS is for
+# helpers of the tests alone.
+function(add_module name)
+  cmake_parse_arguments(PARSE_ARGV 1 module "" "" "SOURCES;LINKS;TESTS;TEST_LINKS")
+  if(module_SOURCES)
+    add_library(${name} ${module_SOURCES})
+    target_link_libraries(${name} PUBLIC ${module_LINKS})
+  else()
+    add_library(${name} INTERFACE)
+    target_link_libraries(${name} INTERFACE ${module_LINKS})
+  endif()
+  if(BUILD_TESTS AND module_TESTS)
+    add_test_program(${name}_test SOURCES ${module_TESTS} LINKS ${name} ${module_TEST_LINKS})
+  endif()
+endfunction()
+
+# add_test_program(<name> SOURCES ... [LINKS ...] [ARGUMENTS ...]): a GoogleTest program, its cases known to ctest one
+# by one so that they run side by side. LABELS are ctest's.
+function(add_test_program name)
+  cmake_parse_arguments(PARSE_ARGV 1 program "" "" "SOURCES;LINKS;LABELS")
+  add_executable(${name} ${program_SOURCES})
+  target_link_libraries(${name} PRIVATE ${program_LINKS} GTest::gmock GTest::gtest_main)
+  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 TEST_PREFIX "${name}." PROPERTIES TIMEOUT 120 LABELS
+                                                                                    "${program_LABELS}")
+endfunction()

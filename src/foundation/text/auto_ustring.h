@@ -1,0 +1,74 @@
+#pragma once
+
+#include <memory>
+#include <utility>
+
+#include "foundation/text/ustring_ref.h"
+
+// How a class that owns a resource says that it takes over another's.
+template <class T>
+using ResourceTransfer = T&&;
+
+// Text that owns its units; moved by an explicit transfer, never copied implicitly.
+//
+// A zero unit, not counted in the length, stands after the last one; an empty string owns no buffer.
+template <class E>
+class AutoUString {
+  public:
+    using Unit = typename E::Unit;
+
+    AutoUString() = default;
+    // Copies the range.
+    AutoUString(Unit const* begin, Unit const* end) : size_(static_cast<std::size_t>(end - begin)) {
+        if (size_ == 0) return;
+        units_ = std::make_unique_for_overwrite<Unit[]>(size_ + 1);
+        std::copy(begin, end, units_.get());
+        units_[size_] = 0;
+    }
+    explicit AutoUString(UStringRef<E> text) : AutoUString(text.begin(), text.end()) {}
+    AutoUString(ResourceTransfer<AutoUString> other) noexcept
+        : units_(std::move(other.units_)), size_(std::exchange(other.size_, 0)) {}
+    AutoUString& operator=(ResourceTransfer<AutoUString> other) noexcept {
+        units_ = std::move(other.units_);
+        size_ = std::exchange(other.size_, 0);
+        return *this;
+    }
+
+    Unit const* begin() const { return units_.get(); }
+    Unit const* end() const { return units_.get() + size_; }
+    std::size_t size() const { return size_; }
+    bool empty() const { return size_ == 0; }
+    std::string_view AsStringView() const requires ByteEncoding<E> { return Ref().AsStringView(); }
+
+    UStringRef<E> Ref() const { return {begin(), end(), true}; }
+    operator UStringRef<E>() const { return Ref(); }
+
+    // Gives the buffer up to the caller (null for an empty string); the string is empty afterwards.
+    std::unique_ptr<Unit[]> Release() {
+        size_ = 0;
+        return std::move(units_);
+    }
+
+  private:
+    std::unique_ptr<Unit[]> units_;
+    std::size_t size_ = 0;
+};
+
+template <class E>
+bool operator==(AutoUString<E> const& left, AutoUString<E> const& right) {
+    return left.Ref() == right.Ref();
+}
+template <class E>
+bool operator==(AutoUString<E> const& left, UStringRef<E> const& right) {
+    return left.Ref() == right;
+}
+
+// Copy a range into a string of its own, without validation.
+template <class E>
+AutoUString<E> MakeUString(typename E::Unit const* begin, typename E::Unit const* end, E const&) {
+    return AutoUString<E>(begin, end);
+}
+template <class E>
+AutoUString<E> MakeUString(UStringRef<E> text) {
+    return AutoUString<E>(text);
+}

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <cstring>
+#include <string_view>
+
+#include "foundation/base/const_data.h"
+#include "foundation/text/encodings.h"
+
+// A view over text in the encoding E: it owns nothing, and its owner must outlive it.
+//
+// It also carries whether the text is already known to be valid in E (literals and formatted text are, bytes read from
+// a file are not); nothing is checked on construction.
+template <class E>
+class UStringRef {
+  public:
+    using Unit = typename E::Unit;
+
+    constexpr UStringRef() = default;
+    constexpr UStringRef(Unit const* begin, Unit const* end, bool valid = false)
+        : begin_(begin), end_(end), known_valid_(valid) {}
+    // A zero-terminated literal; a null pointer gives the empty, absent reference.
+    UStringRef(char const* text) requires ByteEncoding<E>
+        : UStringRef(text ? std::string_view(text) : std::string_view(), true) {}
+    explicit UStringRef(std::string_view bytes, bool valid = false) requires ByteEncoding<E>
+        : begin_(reinterpret_cast<Unit const*>(bytes.data())), end_(begin_ + bytes.size()), known_valid_(valid) {}
+
+    constexpr Unit const* begin() const { return begin_; }
+    constexpr Unit const* end() const { return end_; }
+    constexpr Unit const* data() const { return begin_; }
+    constexpr std::size_t size() const { return static_cast<std::size_t>(end_ - begin_); }
+    constexpr bool empty() const { return begin_ == end_; }
+    constexpr Unit operator[](std::size_t index) const { return begin_[index]; }
+    constexpr bool KnownValid() const { return known_valid_; }
+
+    // The same bytes for code that works on bytes.
+    std::string_view AsStringView() const requires ByteEncoding<E> {
+        return {reinterpret_cast<char const*>(begin_), size()};
+    }
+    ConstData AsData() const requires ByteEncoding<E> { return AsStringView(); }
+
+  private:
+    Unit const* begin_ = nullptr;
+    Unit const* end_ = nullptr;
+    bool known_valid_ = false;
+};
+
+// Unit by unit, unsigned; a string stands before a longer one that it begins.
+template <class E>
+bool operator==(UStringRef<E> const& left, UStringRef<E> const& right) {
+    return left.size() == right.size() && std::equal(left.begin(), left.end(), right.begin());
+}
+template <class E>
+bool operator<(UStringRef<E> const& left, UStringRef<E> const& right) {
+    if constexpr (ByteEncoding<E>) return left.AsStringView() < right.AsStringView();
+    return std::lexicographical_compare(left.begin(), left.end(), right.begin(), right.end());
+}
