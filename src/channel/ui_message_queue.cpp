@@ -1,0 +1,19 @@
+#include "channel/ui_message_queue.h"
+
+#include <utility>
+
+void UIMessageQueue::WriteMessage(UIMessage const& message) {
+    UIMessage copy(message);
+    AccessLocker locker(lock_);
+    messages_.Append(std::move(copy));
+}
+
+void UIMessageQueue::ReadMessages(FiFoQueue<UIMessage>& out) {
+    AccessLocker locker(lock_);
+    messages_.Swap(out);
+}
+
+bool UIMessageQueue::IsEmpty() const {
+    AccessLocker locker(lock_);
+    return messages_.IsEmpty();
+}
