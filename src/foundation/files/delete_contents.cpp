@@ -1,0 +1,128 @@
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <memory>
+#include <vector>
+
+#include "foundation/files/directories.h"
+#include "foundation/files/file_descriptor.h"
+#include "foundation/files/file_errors.h"
+
+namespace {
+
+using UnixPlatform::FileDescriptor;
+
+struct CloseDirectory {
+    void operator()(DIR* directory) const { closedir(directory); }
+};
+
+bool SameFile(struct stat const& left, struct stat const& right) {
+    return left.st_dev == right.st_dev && left.st_ino == right.st_ino;
+}
+
+// Empties a directory, depth first, with one directory open at a time.
+class ContentsDeleter {
+  public:
+    explicit ContentsDeleter(FileLocation const& location) : location_(location) {
+        Enter(UnixPlatform::OpenLocation(location, O_RDONLY | O_DIRECTORY));
+        struct stat root;
+        Check(stat("/", &root));
+        if (SameFile(root, levels_.back().status)) ThrowFileError(location_, EPERM);
+    }
+
+    void Run() {
+        while (true) {
+            if (!levels_.back().names.empty())
+                DeleteOrEnterLast();
+            else if (levels_.size() > 1)
+                LeaveAndDelete();
+            else
+                return;
+        }
+    }
+
+  private:
+    // A directory on the way from the top down to the open one: which it is and the entries left in it. The next
+    // level's directory is the last of them.
+    struct Level {
+        struct stat status;
+        std::vector<Stringy> names;
+    };
+
+    void Check(int result) const {
+        if (result == -1) ThrowFileError(location_, errno);
+    }
+
+    FileDescriptor OpenIn(FileDescriptor const& directory, char const* name) const {
+        int const flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+        FileDescriptor opened(UnixPlatform::Resumed([&] { return openat(directory.Get(), name, flags); }));
+        Check(opened.Get());
+        return opened;
+    }
+
+    struct stat StatusOf(FileDescriptor const& directory) const {
+        struct stat status;
+        Check(fstat(directory.Get(), &status));
+        return status;
+    }
+
+    // All names first, then the deleting: not every file system lists reliably what changes meanwhile.
+    std::vector<Stringy> NamesIn(FileDescriptor const& directory) const {
+        auto listed = OpenIn(directory, ".");
+        std::unique_ptr<DIR, CloseDirectory> listing(fdopendir(listed.Get()));
+        if (!listing) ThrowFileError(location_, errno);
+        listed.Release();
+        std::vector<Stringy> names;
+        while (true) {
+            errno = 0;
+            auto const* entry = readdir(listing.get());
+            if (!entry) break;
+            std::string_view name(entry->d_name);
+            if (name != "." && name != "..") names.emplace_back(name);
+        }
+        if (errno != 0) ThrowFileError(location_, errno);
+        return names;
+    }
+
+    void Enter(FileDescriptor directory) {
+        levels_.push_back({StatusOf(directory), NamesIn(directory)});
+        open_ = std::move(directory);
+    }
+
+    void DeleteOrEnterLast() {
+        char const* name = levels_.back().names.back().c_str();
+        struct stat status;
+        Check(fstatat(open_.Get(), name, &status, AT_SYMLINK_NOFOLLOW));
+        if (S_ISDIR(status.st_mode)) {
+            Enter(OpenIn(open_, name));
+        } else {
+            Check(unlinkat(open_.Get(), name, 0));
+            levels_.back().names.pop_back();
+        }
+    }
+
+    void LeaveAndDelete() {
+        auto parent = OpenIn(open_, "..");
+        levels_.pop_back();
+        // A directory that was moved away meanwhile leads up to somewhere else.
+        if (!SameFile(StatusOf(parent), levels_.back().status)) ThrowFileError(location_, ESTALE);
+        open_ = std::move(parent);
+        Check(unlinkat(open_.Get(), levels_.back().names.back().c_str(), AT_REMOVEDIR));
+        levels_.back().names.pop_back();
+    }
+
+    FileLocation const& location_;
+    std::vector<Level> levels_;
+    FileDescriptor open_;
+};
+
+}  // namespace
+
+void DeleteContents(FileLocation const& location) {
+    ContentsDeleter(location).Run();
+}
+
+void ForceDeleteContents(FileLocation const& location) {
+    if (location.Exists()) DeleteContents(location);
+}

@@ -1,0 +1,61 @@
+#include "foundation/files/file_location.h"
+
+#include <algorithm>
+#include <cerrno>
+
+#include "foundation/files/file_errors.h"
+#include "foundation/files/file_info.h"
+
+namespace UnixPlatform {
+
+bool FileLocation::IsRoot() const {
+    if (!IsAbsolute()) return false;
+    std::size_t depth = 0;
+    for (std::size_t begin = 0, end; begin < path_.size(); begin = end + 1) {
+        end = std::min(path_.find('/', begin), path_.size());
+        auto component = AsStringView().substr(begin, end - begin);
+        if (component.empty() || component == ".") continue;
+        if (component != "..")
+            ++depth;
+        else if (depth > 0)
+            --depth;
+    }
+    return depth == 0;
+}
+
+void FileLocation::RequireNonEmpty() const {
+    if (IsEmpty()) throw EmptyFileLocationError();
+}
+
+bool FileLocation::Exists() const {
+    return UnixFileInfo(*this).Exists();
+}
+
+FileLocation FileLocation::Parent() const {
+    auto nameEnd = path_.find_last_not_of('/');
+    if (nameEnd == path_.npos) return *this;
+    auto slash = path_.rfind('/', nameEnd);
+    if (slash == path_.npos) return {};
+    auto parentEnd = path_.find_last_not_of('/', slash);
+    return FileLocation(parentEnd == path_.npos ? "/" : AsStringView().substr(0, parentEnd + 1));
+}
+
+FileLocation FileLocation::Child(FileName const& name) const {
+    RequireNonEmpty();
+    FileLocation child(*this);
+    if (!path_.ends_with('/')) child.path_ += '/';
+    child.path_ += name.AsStringView();
+    return child;
+}
+
+char const* FileLocation::SystemPath() const {
+    RequireNonEmpty();
+    if (path_.find('\0') != path_.npos) ThrowFileError(*this, EINVAL);
+    return path_.c_str();
+}
+
+}  // namespace UnixPlatform
+
+FileLocation MakeFileLocation(UStringRef<UTF8> path) {
+    return FileLocation(path.AsStringView());
+}

@@ -1,0 +1,164 @@
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sched.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <vector>
+
+#include "foundation/files/directories.h"
+#include "foundation/files/file_errors.h"
+#include "foundation/files/file_info.h"
+#include "foundation/files/file_reader.h"
+#include "foundation/files/file_writer.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// Works in an empty scratch directory, named by Top().
+class FileOperationsTest : public testing::Test {
+  protected:
+    FileOperationsTest() {
+        char pattern[] = "/tmp/files_test.XXXXXX";
+        top_ = FileLocation(mkdtemp(pattern));
+    }
+    ~FileOperationsTest() override {
+        DeleteContents(top_);
+        rmdir(top_.SystemPath());
+    }
+
+    FileLocation At(std::string_view path) const { return FileLocation(Stringy(top_.AsStringView()).append(path)); }
+    static void Write(FileLocation const& location, std::string_view bytes) {
+        FileWritingPath path(location);
+        FileWriter(path).Write(bytes);
+        path.Close();
+    }
+    static Stringy Read(FileLocation const& location) {
+        FileReadingPath path(location);
+        std::vector<unsigned char> bytes(path.Length());
+        FileReader(path).Read(bytes);
+        return {bytes.begin(), bytes.end()};
+    }
+
+    FileLocation top_;
+};
+
+TEST_F(FileOperationsTest, WhatWasWrittenIsReadBackAndReplacesWhatWasThere) {
+    for (auto const& bytes : {Stringy(3 << 20, '\xe9'), Stringy("a\0b", 3), Stringy()}) {
+        Write(At("/file"), bytes);
+        EXPECT_EQ(Read(At("/file")), bytes);
+    }
+    FileReadingPath shrunk(At("/file"));
+    unsigned char byte;
+    EXPECT_THROW(FileReader(shrunk).Read({&byte, 1}), FileIOError);
+    EXPECT_THROW(Read(At("/missing")), FileNotFoundError);
+    EXPECT_THROW(Read(top_), FileIOError);
+    EXPECT_THROW(Write(At("/file/x"), ""), DirectoryNotFoundError);
+    EXPECT_THROW(Write(FileLocation("/dev/full"), "x"), FileIOError);
+    EXPECT_THROW(Write(FileLocation(), "x"), EmptyFileLocationError);
+}
+
+TEST_F(FileOperationsTest, TheFileSystemIsAskedThroughLinks) {
+    Write(At("/file"), "");
+    fs::create_symlink(top_.SystemPath(), At("/link").SystemPath());
+    fs::create_symlink("nowhere", At("/dangling").SystemPath());
+    EXPECT_TRUE(UnixFileInfo(At("/link")).IsDirectory());
+    EXPECT_FALSE(UnixFileInfo(At("/file")).IsDirectory());
+    EXPECT_GT(UnixFileInfo(At("/file")).ModificationTime().tv_sec, 0);
+    EXPECT_TRUE(S_ISREG(UnixFileInfo(At("/file")).Mode()));
+    for (auto name : {"/missing", "/dangling", "/file/below"}) EXPECT_FALSE(At(name).Exists()) << name;
+    EXPECT_THROW(At("/" + Stringy(256, 'n')).Exists(), DirectoryNotFoundError);
+}
+
+TEST_F(FileOperationsTest, ATreeIsMadeWithWhatItLacks) {
+    for (auto path : {"/a/b/c", "/a/b/c/d/", "/x/./y", "/z/../w", "/a/b/c"}) {
+        CreateDirectoryTree(At(path));
+        EXPECT_TRUE(UnixFileInfo(At(path)).IsDirectory()) << path;
+    }
+    CreateDirectoryTree(FileLocation("/"));
+    EXPECT_THROW(CreateDirectoryTree(FileLocation("no/such/relative/path")), EmptyFileLocationError);
+    EXPECT_FALSE(fs::exists("no"));
+}
+
+TEST_F(FileOperationsTest, ATreeDoesNotReplaceWhatIsNoDirectory) {
+    Write(At("/file"), "kept");
+    fs::create_symlink("nowhere", At("/dangling").SystemPath());
+    for (auto path : {"/file", "/file/x", "/file/x/y", "/dangling", "/dangling/x"})
+        EXPECT_THROW(CreateDirectoryTree(At(path)), FileFoundError) << path;
+    EXPECT_EQ(Read(At("/file")), "kept");
+}
+
+TEST_F(FileOperationsTest, DeletingEmptiesTheDirectoryAndNothingElse) {
+    CreateDirectoryTree(At("/base/sub/empty"));
+    CreateDirectoryTree(At("/outside/sub"));
+    Write(At("/outside/file"), "kept");
+    Write(At("/base/file"), "x");
+    Write(At("/base/sub/file"), "x");
+    fs::create_symlink("../../outside", At("/base/sub/link").SystemPath());
+    fs::create_symlink(At("/outside").SystemPath(), At("/base/link").SystemPath());
+    mkfifo(At("/base/pipe").SystemPath(), 0600);
+    ForceDeleteContents(At("/base"));
+    EXPECT_TRUE(fs::is_empty(At("/base").SystemPath()));
+    EXPECT_EQ(Read(At("/outside/file")), "kept");
+    EXPECT_TRUE(At("/outside/sub").Exists());
+}
+
+TEST_F(FileOperationsTest, DeletingRefusesWhatIsNoDirectoryToEmpty) {
+    Write(At("/file"), "kept");
+    EXPECT_NO_THROW(ForceDeleteContents(At("/missing")));
+    EXPECT_THROW(DeleteContents(At("/missing")), FileNotFoundError);
+    EXPECT_THROW(ForceDeleteContents(At("/file")), DirectoryNotFoundError);
+    EXPECT_THROW(ForceDeleteContents(FileLocation()), EmptyFileLocationError);
+    EXPECT_THROW(DeleteContents(FileLocation()), EmptyFileLocationError);
+    EXPECT_EQ(Read(At("/file")), "kept");
+}
+
+// Makes the scratch directory the root of this process, as root or in a user namespace.
+bool MoveRootTo(FileLocation const& top) {
+    return chroot(top.SystemPath()) == 0 || (unshare(CLONE_NEWUSER) == 0 && chroot(top.SystemPath()) == 0);
+}
+
+enum { Refused, Deleted, NoOtherRoot };
+int TryToEmpty(char const* path) try {
+    DeleteContents(FileLocation(path));
+    return Deleted;
+} catch (FileIOError const& error) {
+    return error.ErrorNumber() == EPERM ? Refused : Deleted;
+}
+
+TEST_F(FileOperationsTest, TheRootIsNeverEmptied) {
+    Write(At("/file"), "kept");
+    fs::create_symlink("/", At("/link").SystemPath());
+    for (auto root : {"/", "/link"}) {
+        pid_t child = fork();
+        if (child == 0) _exit(MoveRootTo(top_) ? TryToEmpty(root) : NoOtherRoot);
+        int status;
+        waitpid(child, &status, 0);
+        if (WEXITSTATUS(status) == NoOtherRoot) GTEST_SKIP() << "this process may not move its root";
+        EXPECT_EQ(WEXITSTATUS(status), Refused) << root;
+    }
+    EXPECT_EQ(Read(At("/file")), "kept");
+}
+
+TEST_F(FileOperationsTest, NestingOfAnyDepthIsDeletedWithAFewDescriptors) {
+    UnixPlatform::FileDescriptor directory(open(top_.SystemPath(), O_RDONLY | O_DIRECTORY));
+    for (int depth = 0; depth < 5000; ++depth) {
+        ASSERT_EQ(mkdirat(directory.Get(), "d", 0700), 0);
+        directory = UnixPlatform::FileDescriptor(openat(directory.Get(), "d", O_RDONLY | O_DIRECTORY));
+        ASSERT_TRUE(directory.IsOpen());
+    }
+    directory.Close();
+    rlimit before;
+    getrlimit(RLIMIT_NOFILE, &before);
+    rlimit const few{16, before.rlim_max};
+    setrlimit(RLIMIT_NOFILE, &few);
+    EXPECT_NO_THROW(DeleteContents(top_));
+    setrlimit(RLIMIT_NOFILE, &before);
+    EXPECT_TRUE(fs::is_empty(top_.SystemPath()));
+}
+
+}  // namespace
