@@ -19,17 +19,6 @@ bool TakeMonth(TimeScanner& scanner, Month& month) {
     return false;
 }
 
-bool TakeZone(TimeScanner& scanner, TimeZone& zone) {
-    bool const west = scanner.Take("-");
-    unsigned char hours = 0;
-    unsigned char minutes = 0;
-    if (!west && !scanner.Take("+")) return false;
-    if (!scanner.TakeTwoDigits(hours) || !scanner.TakeTwoDigits(minutes) || minutes > 59) return false;
-    int const seconds = hours * 3'600 + minutes * 60;
-    zone = TimeZone(west ? -seconds : seconds);
-    return true;
-}
-
 bool TakeDate(TimeScanner& scanner, DateRecord& date) {
     return TakeWeekday(scanner) && scanner.Take(", ") && scanner.TakeTwoDigits(date.day) && scanner.Take(" ") &&
            TakeMonth(scanner, date.month) && scanner.Take(" ") && scanner.TakeYear(date.year);
@@ -44,7 +33,7 @@ TimeObject TextToTime(UStringRef<UTF8> text) {
     TimeOfDay time;
     TimeZone zone;
     bool const read = TakeDate(scanner, date) && scanner.Take(" ") && scanner.TakeTimeOfDay(time) &&
-                      scanner.Take(" ") && TakeZone(scanner, zone) && scanner.AtEnd();
+                      scanner.Take(" ") && scanner.TakeOffset("", zone) && scanner.AtEnd();
     if (!read || !date.Valid() || !time.Valid()) throw InvalidTimeText();
     return TimeObject(date, time, zone);
 }

@@ -44,3 +44,14 @@ bool TimeScanner::TakeTimeOfDay(TimeOfDay& time) {
     return TakeTwoDigits(time.hour) && Take(":") && TakeTwoDigits(time.minute) && Take(":") &&
            TakeTwoDigits(time.second);
 }
+
+bool TimeScanner::TakeOffset(std::string_view separator, TimeZone& zone) {
+    bool const west = Take("-");
+    unsigned char hours = 0;
+    unsigned char minutes = 0;
+    if (!west && !Take("+")) return false;
+    if (!TakeTwoDigits(hours) || !Take(separator) || !TakeTwoDigits(minutes) || minutes > 59) return false;
+    int const seconds = hours * 3'600 + minutes * 60;
+    zone = TimeZone(west ? -seconds : seconds);
+    return true;
+}

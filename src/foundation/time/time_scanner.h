@@ -5,6 +5,7 @@
 
 #include "foundation/text/ustring_ref.h"
 #include "foundation/time/time_of_day.h"
+#include "foundation/time/time_zone.h"
 
 // Reads the pieces that the text forms of dates and times are made of, from the front of a borrowed text.
 //
@@ -27,6 +28,8 @@ class TimeScanner {
     bool TakeYear(std::uint32_t& year);
     // hh:mm:ss, whatever the numbers.
     bool TakeTimeOfDay(TimeOfDay& time);
+    // A sign, hours, the separator and minutes below 60: +01:00, or -0330 when the separator is empty.
+    bool TakeOffset(std::string_view separator, TimeZone& zone);
 
   private:
     std::string_view rest_;

@@ -25,10 +25,15 @@ Buffer& operator<<(Buffer& buffer, DateRecord const& date) {
     return (buffer << " " << MonthToText(date.month) << " ").Number(date.year, 4);
 }
 
-Buffer& operator<<(Buffer& buffer, TimeZone const& zone) {
+Buffer& WriteOffset(Buffer& buffer, TimeZone zone, char const* separator) {
     bool const west = zone.Seconds() < 0;
     auto const minutes = static_cast<unsigned long long>(west ? -(zone.Seconds() / 60) : zone.Seconds() / 60);
-    return (buffer << (west ? "-" : "+")).Number(minutes / 60, 2).Number(minutes % 60, 2);
+    (buffer << (west ? "-" : "+")).Number(minutes / 60, 2) << separator;
+    return buffer.Number(minutes % 60, 2);
+}
+
+Buffer& operator<<(Buffer& buffer, TimeZone const& zone) {
+    return WriteOffset(buffer, zone, "");
 }
 
 Buffer& operator<<(Buffer& buffer, TimeObject const& time) {

@@ -18,8 +18,12 @@ char const* MonthToText(Month month);
 Buffer& operator<<(Buffer& buffer, TimeOfDay const& time);
 // Sun, 15 Nov 2026: the day of the week is computed, the year has at least four digits.
 Buffer& operator<<(Buffer& buffer, DateRecord const& date);
-// +0000: hours and minutes, each at least two digits; odd seconds are cut off. The sign is that of the whole offset.
+// +0000.
 Buffer& operator<<(Buffer& buffer, TimeZone const& zone);
 Buffer& operator<<(Buffer& buffer, TimeObject const& time);
+
+// A sign, hours, the separator and minutes, both numbers at least two digits; odd seconds are cut off. The sign is that
+// of the whole offset, so a zone less than a minute to the west is -0000.
+Buffer& WriteOffset(Buffer& buffer, TimeZone zone, char const* separator);
 
 AutoUString<UTF8> TimeToText(TimeObject const& time);
