@@ -137,7 +137,12 @@ TEST(Transcode, ARefusedStreamLeavesNothingBehindForTheNext) {
     decoder.Start(UTF8());
     decoder.Receive(good);
     decoder.ReceiveEnd();
-    EXPECT_THAT(codes.all, ElementsAre(0xE9));
+    GenericTranscoder<UTF32, UTF16> pairs(codes);
+    Units<UTF16> high{0xD800}, plain{0x41};
+    pairs.Receive(high);
+    pairs.Start(UTF16());
+    pairs.Receive(plain);
+    EXPECT_THAT(codes.all, ElementsAre(0xE9, 0x41));
 }
 
 }  // namespace
