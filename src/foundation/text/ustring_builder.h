@@ -7,31 +7,18 @@
 #include "foundation/text/text_receiver.h"
 
 // Collects text in a buffer that at least doubles when it grows, so that appending costs amortised constant time.
-//
-// What is appended must not be a view of the builder itself. As the end of a stream it takes its pieces as they come.
 template <class E>
 class UStringBuilder : public UTextReceiver<E> {
   public:
     using Unit = typename E::Unit;
 
-    void Receive(ConstArrayOf<Unit> units) override {
-        Append(UStringRef<E>(units.data(), units.data() + units.size()));
-    }
+    void Receive(ConstArrayOf<Unit> units) override { Append(units.data(), units.size()); }
 
-    // The whole is known to be valid as long as every piece is.
-    void Append(UStringRef<E> text) {
-        known_valid_ = known_valid_ && text.KnownValid();
-        Append(text.data(), text.size());
-    }
+    void Append(UStringRef<E> text) { Append(text.data(), text.size()); }
 
-    // A view of what was collected, until the builder is changed or destroyed.
-    UStringRef<E> Ref() const { return {units_.get(), units_.get() + size_, known_valid_}; }
+    UStringRef<E> Ref() const { return {units_.get(), units_.get() + size_}; }
     std::size_t size() const { return size_; }
-    // Starts over with the buffer kept.
-    void Clear() {
-        size_ = 0;
-        known_valid_ = true;
-    }
+    void Clear() { size_ = 0; }
 
     // A copy of what was collected.
     AutoUString<E> MakeString() const { return AutoUString<E>(Ref()); }
@@ -53,5 +40,4 @@ class UStringBuilder : public UTextReceiver<E> {
     std::unique_ptr<Unit[]> units_;
     std::size_t size_ = 0;
     std::size_t capacity_ = 0;
-    bool known_valid_ = true;
 };

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <list>
+
+#include "channel/event_signal.h"
+#include "channel/mutex.h"
+#include "foundation/base/debuggable_exception.h"
+#include "foundation/time/time_interval.h"
+
+namespace UnixPlatform {
+
+class EventLink;
+
+// A signal was linked to an event that is already set.
+class AlreadySignaled : public DebuggableException {
+  public:
+    AlreadySignaled() : DebuggableException("AlreadySignaled") {}
+};
+
+// A condition that threads wait for: set, it stays set and lets every waiter through until it is reset.
+//
+// Any thread may call. The event's mutex is taken before that of a signal, never the other way round. It must outlive
+// every link to it. Failures of the platform are thrown as MutexError or EventError.
+class Event {
+  public:
+    Event() = default;
+    Event(Event const&) = delete;
+    Event& operator=(Event const&) = delete;
+
+    // Sets the event and fires every linked signal. A link leaves the list as it is fired; when one throws, those after
+    // it stay linked.
+    void SetEvent();
+    void ResetEvent();
+
+    // Links a waiter's signal; throws AlreadySignaled when the event is set. Waiting does not change the event, hence
+    // const. EventLink calls these two.
+    void AddSignal(EventLink& link) const;
+    // Unlinks it; no effect when it is not linked. Afterwards the event no longer touches the signal.
+    void RemoveSignal(EventLink& link) const;
+
+  private:
+    mutable Mutex mutex_;
+    bool signalled_ = false;
+    mutable std::list<EventLink*> links_;
+};
+
+// Joins one signal to one event for as long as it stands in scope. Both must outlive it.
+class EventLink {
+  public:
+    // Throws AlreadySignaled when the event is set.
+    EventLink(EventSignal& signal, Event const& event) : signal_(signal), event_(event) { event_.AddSignal(*this); }
+    ~EventLink() { event_.RemoveSignal(*this); }
+    EventLink(EventLink const&) = delete;
+    EventLink& operator=(EventLink const&) = delete;
+
+    void Fire() { signal_.Fire(); }
+
+  private:
+    EventSignal& signal_;
+    Event const& event_;
+};
+
+void SetEvent(Event& event);
+void ResetEvent(Event& event);
+
+// Wait at most `timeout` and answer whether the event, or either of the two, was set; true at once when one is set
+// already. EventSignal::WaitOnSignal says how the time is taken.
+bool WaitForSingleEvent(Event const& event, TimeInterval timeout);
+bool WaitForTwoEvents(Event const& first, Event const& second, TimeInterval timeout);
+
+}  // namespace UnixPlatform

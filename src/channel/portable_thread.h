@@ -1,0 +1,68 @@
+#pragma once
+
+#include <pthread.h>
+
+#include <atomic>
+#include <cstddef>
+
+// A detached thread with a life cycle that cleans up after itself.
+//
+// An owned thread is shared by its owner and the thread: the object stays valid until the owner calls Abandon, however
+// early the function ends, and is freed by the thread, never by the owner. An owner that never abandons keeps the
+// thread polling once a millisecond for ever. The two meet only through two flags. A fire-and-forget thread has no
+// owner and frees everything as soon as its function returns.
+//
+// What a thread's function throws is swallowed. When it is done, the thread runs the routines of thread_exit.h.
+class PortableThread {
+  public:
+    using Function = void (*)(void*);
+
+    // The least stack of every thread, in bytes: a smaller default of the platform is raised to it, a larger one kept.
+    static constexpr std::size_t minimum_stack_size = 0x80000;
+
+    // An owned thread that waits for Start; null when the function is null. Until Start has succeeded the caller may
+    // delete it.
+    static PortableThread* CreatePortableThreadSuspended(Function function, void* argument);
+    // The same, started at once; null also when it could not be started.
+    static PortableThread* CreatePortableThread(Function function, void* argument);
+    // A fire-and-forget thread. Answers whether it started.
+    static bool RunPortableThread(Function function, void* argument);
+
+    // Starts the thread, unless that was done already, and answers whether it runs. A failure goes to standard error as
+    // one line and leaves an object that can only be deleted. Must have returned before Abandon is called.
+    bool Start();
+
+    // The owner's last call: from now on the object may vanish at any moment.
+    void Abandon() { abandoned_ = true; }
+
+    // Called by the thread when its function has returned.
+    void Complete() { completed_ = true; }
+    bool Completed() const { return completed_; }
+
+    // The platform's thread; only after Start has succeeded, and only of an owned thread.
+    pthread_t Handle() const { return handle_; }
+
+    // What the entry procedures are given; they free it.
+    struct StartBlock {
+        Function function;
+        void* argument;
+        PortableThread* thread;
+    };
+    // The entry of an owned thread: runs the function, waits for the owner to abandon the object, frees it. A block
+    // without a thread object is freed and nothing runs.
+    static void* WaitForAbandon(void* start_block);
+    // The entry of a fire-and-forget thread: runs the function and frees the object.
+    static void* WaitForCompletion(void* start_block);
+
+  private:
+    PortableThread(Function function, void* argument, bool run_to_completion)
+        : function_(function), argument_(argument), run_to_completion_(run_to_completion) {}
+
+    std::atomic<bool> abandoned_ = false;
+    std::atomic<bool> completed_ = false;
+    Function function_;
+    void* argument_;
+    bool not_started_ = true;
+    bool run_to_completion_;
+    pthread_t handle_{};
+};
