@@ -27,3 +27,15 @@ function(add_test_program name)
   gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 TEST_PREFIX "${name}." PROPERTIES TIMEOUT 120 LABELS
                                                                                     "${program_LABELS}")
 endfunction()
+
+# add_benchmark_program(<name> SOURCES ... [LINKS ...]): a Google Benchmark program, run by hand for figures. ctest runs
+# it for a moment under the label "bench", to see that it works: a benchmark that skips itself with an error fails there.
+function(add_benchmark_program name)
+  cmake_parse_arguments(PARSE_ARGV 1 program "" "" "SOURCES;LINKS")
+  add_executable(${name} ${program_SOURCES})
+  target_link_libraries(${name} PRIVATE ${program_LINKS} benchmark::benchmark_main)
+  if(BUILD_TESTS)
+    add_test(NAME ${name} COMMAND ${name} --benchmark_min_time=0.01)
+    set_tests_properties(${name} PROPERTIES LABELS bench TIMEOUT 120 FAIL_REGULAR_EXPRESSION "ERROR OCCURRED")
+  endif()
+endfunction()

@@ -5,38 +5,21 @@
 #include <sys/stat.h>
 #include <sys/wait.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <vector>
 
-#include "foundation/files/directories.h"
 #include "foundation/files/file_errors.h"
 #include "foundation/files/file_info.h"
 #include "foundation/files/file_reader.h"
-#include "foundation/files/file_writer.h"
+#include "foundation/files/test_directory.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
-// Works in an empty scratch directory, named by Top().
 class FileOperationsTest : public testing::Test {
   protected:
-    FileOperationsTest() {
-        char pattern[] = "/tmp/files_test.XXXXXX";
-        top_ = FileLocation(mkdtemp(pattern));
-    }
-    ~FileOperationsTest() override {
-        DeleteContents(top_);
-        rmdir(top_.SystemPath());
-    }
-
-    FileLocation At(std::string_view path) const { return FileLocation(Stringy(top_.AsStringView()).append(path)); }
-    static void Write(FileLocation const& location, std::string_view bytes) {
-        FileWritingPath path(location);
-        FileWriter(path).Write(bytes);
-        path.Close();
-    }
+    FileLocation At(std::string_view path) const { return directory_.At(path); }
     static Stringy Read(FileLocation const& location) {
         FileReadingPath path(location);
         std::vector<unsigned char> bytes(path.Length());
@@ -44,12 +27,13 @@ class FileOperationsTest : public testing::Test {
         return {bytes.begin(), bytes.end()};
     }
 
-    FileLocation top_;
+    TestDirectory directory_;
+    FileLocation const& top_ = directory_.Top();
 };
 
 TEST_F(FileOperationsTest, WhatWasWrittenIsReadBackAndReplacesWhatWasThere) {
     for (auto const& bytes : {Stringy(3 << 20, '\xe9'), Stringy("a\0b", 3), Stringy()}) {
-        Write(At("/file"), bytes);
+        directory_.Write("/file", bytes);
         EXPECT_EQ(Read(At("/file")), bytes);
     }
     FileReadingPath shrunk(At("/file"));
@@ -57,13 +41,14 @@ TEST_F(FileOperationsTest, WhatWasWrittenIsReadBackAndReplacesWhatWasThere) {
     EXPECT_THROW(FileReader(shrunk).Read({&byte, 1}), FileIOError);
     EXPECT_THROW(Read(At("/missing")), FileNotFoundError);
     EXPECT_THROW(Read(top_), FileIOError);
-    EXPECT_THROW(Write(At("/file/x"), ""), DirectoryNotFoundError);
-    EXPECT_THROW(Write(FileLocation("/dev/full"), "x"), FileIOError);
-    EXPECT_THROW(Write(FileLocation(), "x"), EmptyFileLocationError);
+    EXPECT_THROW(directory_.Write("/file/x", ""), DirectoryNotFoundError);
+    FileWritingPath full(FileLocation("/dev/full"));
+    EXPECT_THROW(FileWriter(full).Write("x"), FileIOError);
+    EXPECT_THROW(FileWritingPath{FileLocation()}, EmptyFileLocationError);
 }
 
 TEST_F(FileOperationsTest, TheFileSystemIsAskedThroughLinks) {
-    Write(At("/file"), "");
+    directory_.Write("/file", "");
     fs::create_symlink(top_.SystemPath(), At("/link").SystemPath());
     fs::create_symlink("nowhere", At("/dangling").SystemPath());
     EXPECT_TRUE(UnixFileInfo(At("/link")).IsDirectory());
@@ -85,7 +70,7 @@ TEST_F(FileOperationsTest, ATreeIsMadeWithWhatItLacks) {
 }
 
 TEST_F(FileOperationsTest, ATreeDoesNotReplaceWhatIsNoDirectory) {
-    Write(At("/file"), "kept");
+    directory_.Write("/file", "kept");
     fs::create_symlink("nowhere", At("/dangling").SystemPath());
     for (auto path : {"/file", "/file/x", "/file/x/y", "/dangling", "/dangling/x"})
         EXPECT_THROW(CreateDirectoryTree(At(path)), FileFoundError) << path;
@@ -95,9 +80,9 @@ TEST_F(FileOperationsTest, ATreeDoesNotReplaceWhatIsNoDirectory) {
 TEST_F(FileOperationsTest, DeletingEmptiesTheDirectoryAndNothingElse) {
     CreateDirectoryTree(At("/base/sub/empty"));
     CreateDirectoryTree(At("/outside/sub"));
-    Write(At("/outside/file"), "kept");
-    Write(At("/base/file"), "x");
-    Write(At("/base/sub/file"), "x");
+    directory_.Write("/outside/file", "kept");
+    directory_.Write("/base/file", "x");
+    directory_.Write("/base/sub/file", "x");
     fs::create_symlink("../../outside", At("/base/sub/link").SystemPath());
     fs::create_symlink(At("/outside").SystemPath(), At("/base/link").SystemPath());
     mkfifo(At("/base/pipe").SystemPath(), 0600);
@@ -108,7 +93,7 @@ TEST_F(FileOperationsTest, DeletingEmptiesTheDirectoryAndNothingElse) {
 }
 
 TEST_F(FileOperationsTest, DeletingRefusesWhatIsNoDirectoryToEmpty) {
-    Write(At("/file"), "kept");
+    directory_.Write("/file", "kept");
     EXPECT_NO_THROW(ForceDeleteContents(At("/missing")));
     EXPECT_THROW(DeleteContents(At("/missing")), FileNotFoundError);
     EXPECT_THROW(ForceDeleteContents(At("/file")), DirectoryNotFoundError);
@@ -131,7 +116,7 @@ int TryToEmpty(char const* path) try {
 }
 
 TEST_F(FileOperationsTest, TheRootIsNeverEmptied) {
-    Write(At("/file"), "kept");
+    directory_.Write("/file", "kept");
     fs::create_symlink("/", At("/link").SystemPath());
     for (auto root : {"/", "/link"}) {
         pid_t child = fork();
@@ -146,9 +131,9 @@ TEST_F(FileOperationsTest, TheRootIsNeverEmptied) {
 
 TEST_F(FileOperationsTest, NestingOfAnyDepthIsDeletedWithAFewDescriptors) {
     UnixPlatform::FileDescriptor directory(open(top_.SystemPath(), O_RDONLY | O_DIRECTORY));
-    for (int depth = 0; depth < 5000; ++depth) {
-        ASSERT_EQ(mkdirat(directory.Get(), "d", 0700), 0);
-        directory = UnixPlatform::FileDescriptor(openat(directory.Get(), "d", O_RDONLY | O_DIRECTORY));
+    for (int depth = 0; depth < 1000; ++depth) {
+        ASSERT_EQ(mkdirat(directory.Get(), "directory", 0700), 0);
+        directory = UnixPlatform::FileDescriptor(openat(directory.Get(), "directory", O_RDONLY | O_DIRECTORY));
         ASSERT_TRUE(directory.IsOpen());
     }
     directory.Close();

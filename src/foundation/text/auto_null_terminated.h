@@ -11,7 +11,7 @@ class AutoNullTerminated {
   public:
     // Holds the empty text, without a buffer.
     AutoNullTerminated() = default;
-    // Copies the range.
+    // Copies the range. A zero unit inside it ends the text early for whoever reads it.
     AutoNullTerminated(Unit const* begin, Unit const* end) {
         auto size = static_cast<std::size_t>(end - begin);
         units_ = std::make_unique_for_overwrite<Unit[]>(size + 1);

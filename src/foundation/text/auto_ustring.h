@@ -5,13 +5,14 @@
 
 #include "foundation/text/ustring_ref.h"
 
-// How a class that owns a resource says that it takes over another's.
+// How a class that owns a resource says that it takes over another's, which is left empty.
 template <class T>
 using ResourceTransfer = T&&;
 
 // Text that owns its units; moved by an explicit transfer, never copied implicitly.
 //
-// A zero unit, not counted in the length, stands after the last one; an empty string owns no buffer.
+// A zero unit, not counted in the length, stands after the last one; an empty string owns no buffer. Nothing is checked:
+// whether the text is known to be valid is what its source says of itself.
 template <class E>
 class AutoUString {
   public:
@@ -19,18 +20,20 @@ class AutoUString {
 
     AutoUString() = default;
     // Copies the range.
-    AutoUString(Unit const* begin, Unit const* end) : size_(static_cast<std::size_t>(end - begin)) {
+    AutoUString(Unit const* begin, Unit const* end, bool valid = false)
+        : size_(static_cast<std::size_t>(end - begin)), known_valid_(valid) {
         if (size_ == 0) return;
         units_ = std::make_unique_for_overwrite<Unit[]>(size_ + 1);
         std::copy(begin, end, units_.get());
         units_[size_] = 0;
     }
-    explicit AutoUString(UStringRef<E> text) : AutoUString(text.begin(), text.end()) {}
+    explicit AutoUString(UStringRef<E> text) : AutoUString(text.begin(), text.end(), text.KnownValid()) {}
     AutoUString(ResourceTransfer<AutoUString> other) noexcept
-        : units_(std::move(other.units_)), size_(std::exchange(other.size_, 0)) {}
+        : units_(std::move(other.units_)), size_(std::exchange(other.size_, 0)), known_valid_(other.known_valid_) {}
     AutoUString& operator=(ResourceTransfer<AutoUString> other) noexcept {
         units_ = std::move(other.units_);
         size_ = std::exchange(other.size_, 0);
+        known_valid_ = other.known_valid_;
         return *this;
     }
 
@@ -40,7 +43,7 @@ class AutoUString {
     bool empty() const { return size_ == 0; }
     std::string_view AsStringView() const requires ByteEncoding<E> { return Ref().AsStringView(); }
 
-    UStringRef<E> Ref() const { return {begin(), end(), true}; }
+    UStringRef<E> Ref() const { return {begin(), end(), known_valid_}; }
     operator UStringRef<E>() const { return Ref(); }
 
     // Gives the buffer up to the caller (null for an empty string); the string is empty afterwards.
@@ -52,6 +55,7 @@ class AutoUString {
   private:
     std::unique_ptr<Unit[]> units_;
     std::size_t size_ = 0;
+    bool known_valid_ = false;
 };
 
 template <class E>
@@ -63,7 +67,7 @@ bool operator==(AutoUString<E> const& left, UStringRef<E> const& right) {
     return left.Ref() == right;
 }
 
-// Copy a range into a string of its own, without validation.
+// Copy text into a string of its own, without validation.
 template <class E>
 AutoUString<E> MakeUString(typename E::Unit const* begin, typename E::Unit const* end, E const&) {
     return AutoUString<E>(begin, end);

@@ -27,7 +27,6 @@ class FixedAscii {
         if (text.size() > Capacity - size_) throw ConstDataCapacityExceeded();
         std::copy(text.begin(), text.end(), characters_ + size_);
         size_ += text.size();
-        characters_[size_] = 0;
     }
 
     unsigned char const* begin() const { return characters_; }
@@ -46,5 +45,6 @@ class FixedAscii {
 
   private:
     std::size_t size_ = 0;
+    // Zero after the last character.
     unsigned char characters_[Capacity + 1] = {};
 };

@@ -7,18 +7,31 @@
 #include "foundation/text/text_receiver.h"
 
 // Collects text in a buffer that at least doubles when it grows, so that appending costs amortised constant time.
+//
+// What is appended must not be a view of the builder itself. As the end of a stream it takes its pieces as they come.
 template <class E>
 class UStringBuilder : public UTextReceiver<E> {
   public:
     using Unit = typename E::Unit;
 
-    void Receive(ConstArrayOf<Unit> units) override { Append(units.data(), units.size()); }
+    void Receive(ConstArrayOf<Unit> units) override {
+        Append(UStringRef<E>(units.data(), units.data() + units.size()));
+    }
 
-    void Append(UStringRef<E> text) { Append(text.data(), text.size()); }
+    // The whole is known to be valid as long as every piece is.
+    void Append(UStringRef<E> text) {
+        known_valid_ = known_valid_ && text.KnownValid();
+        Append(text.data(), text.size());
+    }
 
-    UStringRef<E> Ref() const { return {units_.get(), units_.get() + size_}; }
+    // A view of what was collected, until the builder is changed or destroyed.
+    UStringRef<E> Ref() const { return {units_.get(), units_.get() + size_, known_valid_}; }
     std::size_t size() const { return size_; }
-    void Clear() { size_ = 0; }
+    // Starts over with the buffer kept.
+    void Clear() {
+        size_ = 0;
+        known_valid_ = true;
+    }
 
     // A copy of what was collected.
     AutoUString<E> MakeString() const { return AutoUString<E>(Ref()); }
@@ -40,4 +53,5 @@ class UStringBuilder : public UTextReceiver<E> {
     std::unique_ptr<Unit[]> units_;
     std::size_t size_ = 0;
     std::size_t capacity_ = 0;
+    bool known_valid_ = true;
 };

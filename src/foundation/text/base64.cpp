@@ -1,0 +1,39 @@
+#include "foundation/text/base64.h"
+
+#include <array>
+#include <string_view>
+
+namespace {
+
+constexpr unsigned char no_value = 64;
+
+constexpr std::array<unsigned char, 256> MakeValues() {
+    std::array<unsigned char, 256> values{};
+    values.fill(no_value);
+    unsigned char next = 0;
+    for (char character : std::string_view("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/"))
+        values[static_cast<unsigned char>(character)] = next++;
+    return values;
+}
+constexpr auto values = MakeValues();
+
+}  // namespace
+
+void Base64Decoder::Decode(ConstData text, Stringy& bytes) {
+    for (unsigned char character : text) {
+        unsigned char value = values[character];
+        if (value == no_value) continue;
+        bits_ = bits_ << 6 | value;
+        waiting_ += 6;
+        if (waiting_ < 8) continue;
+        waiting_ -= 8;
+        bytes += static_cast<char>(bits_ >> waiting_ & 0xFF);
+    }
+}
+
+Stringy DecodeBase64(ConstData text) {
+    Stringy bytes;
+    bytes.reserve(text.size() / 4 * 3 + 3);
+    Base64Decoder().Decode(text, bytes);
+    return bytes;
+}

@@ -1,0 +1,148 @@
+#include "foundation/text/transcode.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+#include <optional>
+#include <vector>
+
+namespace {
+
+using testing::ElementsAre;
+
+template <class E>
+using Units = std::vector<typename E::Unit>;
+
+// Keeps what it is given, piece by piece.
+template <class E>
+struct Recorder : UTextReceiver<E> {
+    void Start(E) override { ++starts; }
+    void Receive(ConstArrayOf<typename E::Unit> units) override {
+        all.insert(all.end(), units.begin(), units.end());
+        pieces.push_back(units.size());
+    }
+    void ReceiveEnd() override { ++ends; }
+
+    int starts = 0, ends = 0;
+    Units<E> all;
+    std::vector<std::size_t> pieces;
+};
+
+// The text converted in two pieces; null when it is refused.
+template <class To, class From>
+std::optional<Units<To>> ConvertSplit(Units<From> const& text, std::size_t split) {
+    Recorder<To> recorder;
+    typename TranscoderFor<To, From>::Type transcoder(recorder);
+    try {
+        transcoder.Start(From());
+        transcoder.Receive({text.data(), split});
+        transcoder.Receive({text.data() + split, text.size() - split});
+        transcoder.ReceiveEnd();
+    } catch (InvalidTextEncoding const&) {
+        EXPECT_EQ(recorder.ends, 0);
+        return {};
+    }
+    EXPECT_EQ(recorder.starts + recorder.ends, 2);
+    return recorder.all;
+}
+
+template <class To, class From>
+void Expect(std::optional<Units<To>> const& to, std::initializer_list<Units<From>> texts) {
+    for (auto const& text : texts)
+        for (std::size_t split = 0; split <= text.size(); ++split)
+            EXPECT_EQ((ConvertSplit<To, From>(text, split)), to) << testing::PrintToString(text) << " cut at " << split;
+}
+
+template <class To, class From>
+Units<To> Converted(Units<From> const& text) {
+    auto result = Transcode<To>(UStringRef<From>(text.data(), text.data() + text.size()));
+    return {result.begin(), result.end()};
+}
+
+TEST(Transcode, UTF8DecodesLenientlyWhereverItIsCut) {
+    auto expect = Expect<UTF32, UTF8>;
+    expect({{}}, {{}});
+    expect({{0, 0x41, 0x7F}}, {{0, 0x41, 0x7F}, {0xC0, 0x80, 0x41, 0x7F}, {0xE0, 0x80, 0x80, 0xC1, 0x81, 0x7F}});
+    expect({{0x80, 0x7FF, 0x800}}, {{0xC2, 0x80, 0xDF, 0xBF, 0xE0, 0xA0, 0x80}});
+    expect({{0xFFFF, 0x1F600, 0x62}}, {{0xEF, 0xBF, 0xBF, 0xF0, 0x9F, 0x98, 0x80, 0x62}});
+    expect({{0xD800, 0x110000}}, {{0xED, 0xA0, 0x80, 0xF4, 0x90, 0x80, 0x80}});
+    expect({{0, 0x1FFFFF}}, {{0xF0, 0x80, 0x80, 0x80, 0xF7, 0xBF, 0xBF, 0xBF}});
+}
+
+TEST(Transcode, BrokenUTF8IsRefusedWhereverItIsCut) {
+    Expect<UTF32, UTF8>({}, {{0x80}, {0xC3}, {0xE2, 0x82}, {0x41, 0xF0, 0x9F, 0x98}, {0xC3, 0x41}});
+    Expect<UTF32, UTF8>({}, {{0xC3, 0x41, 0x41, 0x41}, {0x80, 0x80, 0x80, 0x80}, {0xE2, 0x41, 0x82, 0xAC}});
+    Expect<UTF32, UTF8>({}, {{0xF0, 0x9F, 0x98, 0x41}, {0xF8, 0x88, 0x80, 0x80, 0x80}, {0xFF, 0x41, 0x41, 0x41}});
+}
+
+TEST(Transcode, UTF16PairsItsSurrogatesOrIsRefused) {
+    Expect<UTF32, UTF16>({{0x41, 0xD7FF, 0xE000, 0xFFFF}}, {{0x41, 0xD7FF, 0xE000, 0xFFFF}});
+    Expect<UTF32, UTF16>({{0x1F600, 0x10000, 0x10FFFF}}, {{0xD83D, 0xDE00, 0xD800, 0xDC00, 0xDBFF, 0xDFFF}});
+    Expect<UTF32, UTF16>({}, {{0xDC00}, {0xD800}, {0xD800, 0x41}, {0xD800, 0xD800, 0xDC00}, {0xDC00, 0xD800}});
+}
+
+TEST(Transcode, EncodersWriteTheShortestFormAndRefuseWhatHasNone) {
+    Expect<UTF8, UTF32>({{0, 0x7F, 0xC2, 0x80, 0xDF, 0xBF}}, {{0, 0x7F, 0x80, 0x7FF}});
+    Expect<UTF8, UTF32>({{0xE0, 0xA0, 0x80, 0xEF, 0xBF, 0xBF}}, {{0x800, 0xFFFF}});
+    Expect<UTF8, UTF32>({{0xF0, 0x90, 0x80, 0x80, 0xF4, 0x8F, 0xBF, 0xBF}}, {{0x10000, 0x10FFFF}});
+    Expect<UTF16, UTF32>({{0xFFFF, 0xD800, 0xDC00, 0xDBFF, 0xDFFF}}, {{0xFFFF, 0x10000, 0x10FFFF}});
+    for (UTF32::Unit code : {0xD800u, 0xDFFFu, 0x110000u, 0x1FFFFFu, 0xFFFFFFFFu}) {
+        Expect<UTF8, UTF32>({}, {{0x41, code}});
+        Expect<UTF16, UTF32>({}, {{0x41, code}});
+    }
+}
+
+TEST(Transcode, EveryCodePointSurvivesTheWayThereAndBack) {
+    Units<UTF32> all;
+    for (UTF32::Unit code = 0; code < 0x110000; ++code)
+        if (code < 0xD800 || code > 0xDFFF) all.push_back(code);
+    EXPECT_TRUE((Converted<UTF32, UTF8>(Converted<UTF8, UTF32>(all)) == all));
+    EXPECT_TRUE((Converted<UTF32, UTF16>(Converted<UTF16, UTF32>(all)) == all));
+    EXPECT_TRUE((Converted<UTF32, UTF32>(all) == all));
+}
+
+TEST(Transcode, AsciiPassesAndNothingElseDoes) {
+    Expect<UTF8, USAscii>({{0, 0x31, 0x7F}}, {{0, 0x31, 0x7F}});
+    Expect<UTF16, USAscii>({{0, 0x31, 0x7F}}, {{0, 0x31, 0x7F}});
+    Expect<UTF8, USAscii>({}, {{0x31, 0x80}});
+    Expect<UTF16, USAscii>({}, {{0xFF}});
+}
+
+TEST(Transcode, OutputIsHandedOnInBlocks) {
+    Units<UTF8> ascii(1030, 'a');
+    Recorder<UTF32> codes;
+    GenericTranscoder<UTF32, UTF8> decoder(codes);
+    decoder.Receive(ascii);
+    EXPECT_THAT(codes.pieces, ElementsAre(1024, 6));
+
+    Units<UTF32> euros(1400, 0x20AC);
+    Recorder<UTF8> bytes;
+    GenericTranscoder<UTF8, UTF32>(bytes).Receive(euros);
+    EXPECT_THAT(bytes.pieces, ElementsAre(4095, 105));
+
+    euros.resize(3000, 0x20AC);
+    euros.back() = 0xD800;
+    Recorder<UTF16> units;
+    EXPECT_THROW((GenericTranscoder<UTF16, UTF32>(units).Receive(euros)), InvalidTextEncoding);
+    EXPECT_THAT(units.pieces, ElementsAre(2047));
+}
+
+TEST(Transcode, ARefusedStreamLeavesNothingBehindForTheNext) {
+    Recorder<UTF32> codes;
+    GenericTranscoder<UTF32, UTF8> decoder(codes);
+    Units<UTF8> broken(4, 0xFF), cut(3, 0xF0), good{0xC3, 0xA9};
+    EXPECT_THROW(decoder.Receive(broken), InvalidTextEncoding);
+    EXPECT_NO_THROW(decoder.Receive(cut));
+    decoder.Start(UTF8());
+    decoder.Receive(good);
+    decoder.ReceiveEnd();
+    GenericTranscoder<UTF32, UTF16> pairs(codes);
+    Units<UTF16> high{0xD800}, plain{0x41};
+    pairs.Receive(high);
+    pairs.Start(UTF16());
+    pairs.Receive(plain);
+    EXPECT_THAT(codes.all, ElementsAre(0xE9, 0x41));
+}
+
+}  // namespace

@@ -1,0 +1,18 @@
+#include "localisation/control_literal.h"
+
+#include <cstring>
+
+#include "localisation/uformat.h"
+
+AutoNullTerminated<char> ControlLiteral(char const* english) {
+    return MakePlatformString(UFormat(english));
+}
+
+AutoNullTerminated<char> ControlLiteral(AutoNullTerminated<char> text) {
+    return text;
+}
+
+AutoNullTerminated<char> FunkyControlLiteral(char const* text) {
+    if (!text) return {};
+    return {text, text + std::strlen(text)};
+}

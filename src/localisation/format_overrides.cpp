@@ -1,0 +1,58 @@
+#include "localisation/format_overrides.h"
+
+#include <algorithm>
+
+FormatOverrideSet::FormatOverrideSet(UStringRef<UTF8> text) {
+    auto isLineEnd = [](unsigned char byte) { return byte == '\r' || byte == '\n'; };
+    for (auto line = text.begin(); line != text.end();) {
+        auto lineEnd = std::find_if(line, text.end(), isLineEnd);
+        AddLine({line, lineEnd});
+        line = lineEnd == text.end() ? lineEnd : lineEnd + 1;
+    }
+    std::sort(sorted_.begin(), sorted_.end());
+}
+
+void FormatOverrideSet::AddLine(UStringRef<UTF8> line) {
+    auto bytes = line.AsStringView();
+    auto firstTab = bytes.find('\t');
+    if (firstTab == bytes.npos || firstTab == 0) return;
+    sorted_.emplace_back(bytes.substr(0, firstTab), bytes.substr(bytes.rfind('\t') + 1));
+}
+
+FormatBinding const* FormatOverrideSet::Find(UStringRef<UTF8> key) const {
+    auto found = std::lower_bound(sorted_.begin(), sorted_.end(), FormatBinding(key, {}));
+    return found != sorted_.end() && found->first == key ? &*found : nullptr;
+}
+
+bool FormatOverrideSet::HasOverride(UStringRef<UTF8> key) const {
+    return Find(key) != nullptr;
+}
+
+UStringRef<UTF8> FormatOverrideSet::GetOverride(UStringRef<UTF8> key) const {
+    auto* found = Find(key);
+    if (!found) throw FormatOverrideNotFound();
+    return found->second;
+}
+
+FormatOverrideSet const* FormatOverrideContext::Find(UStringRef<UTF8> key) const {
+    ListIterator scopes(scopes_);
+    while (auto* node = scopes.Next()) {
+        auto const& set = static_cast<FormatOverrideScope*>(node)->Set();
+        if (set.HasOverride(key)) return &set;
+    }
+    return nullptr;
+}
+
+bool FormatOverrideContext::HasOverride(UStringRef<UTF8> key) const {
+    return Find(key) != nullptr;
+}
+
+UStringRef<UTF8> FormatOverrideContext::Override(UStringRef<UTF8> key, UStringRef<UTF8> defaultText) const {
+    auto* set = Find(key);
+    return set ? set->GetOverride(key) : defaultText;
+}
+
+FormatOverrideContext& GlobalFormatOverrideContext() {
+    static auto& context = *new FormatOverrideContext;
+    return context;
+}

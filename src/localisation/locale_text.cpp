@@ -1,0 +1,57 @@
+#include "localisation/locale_text.h"
+
+#include "foundation/text/numerals.h"
+#include "foundation/text/transcode.h"
+#include "foundation/time/time_object.h"
+#include "foundation/time/time_to_text.h"
+#include "localisation/uformat.h"
+
+namespace UnixPlatform {
+
+namespace {
+
+AutoUString<UTF8> NameOf(DayOfWeek day, char const* const (&names)[7]) {
+    auto index = static_cast<std::size_t>(day);
+    return MakeUString(UFormat(index < 7 ? names[index] : "???"));
+}
+
+}  // namespace
+
+AutoUString<UTF8> FormattedTimeOfDay(TimeOfDay const& time) {
+    unsigned char room[16];
+    Buffer text(room);
+    text << time;
+    return text.MakeText();
+}
+
+AutoUString<UTF8> FormattedDateRecord(DateRecord const& date) {
+    unsigned char room[32];
+    Buffer text(room);
+    text << date;
+    return text.MakeText();
+}
+
+AutoUString<UTF8> FormattedLocalTime(Instant const& instant) {
+    TimeObject local(instant, TimeZone::Local());
+    auto date = FormattedDateRecord(local.Date());
+    auto time = FormattedTimeOfDay(local.Time());
+    return MakeUString(FormatPlusArguments(FormatPlusArguments(UFormat("{date} {time}"), date), time));
+}
+
+AutoUString<UTF8> FormattedLongDayOfWeek(DayOfWeek const& day) {
+    return NameOf(day, {"Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"});
+}
+
+AutoUString<UTF8> FormattedShortDayOfWeek(DayOfWeek const& day) {
+    return NameOf(day, {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"});
+}
+
+AutoUString<UTF8> FormattedNumber(unsigned long long value) {
+    return FormattedNumber(MakeAsciiDecimalNumeral64(value, 1), 0);
+}
+
+AutoUString<UTF8> FormattedNumber(UStringRef<USAscii> numeral, unsigned int) {
+    return Transcode<UTF8>(numeral);
+}
+
+}  // namespace UnixPlatform

@@ -1,0 +1,3 @@
+#include "localisation/product.h"
+
+char const* const product_version = PRODUCT_VERSION;

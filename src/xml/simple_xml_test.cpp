@@ -1,0 +1,58 @@
+#include "xml/simple_xml.h"
+
+#include <gtest/gtest.h>
+
+#include "foundation/text/ustring_builder.h"
+#include "xml/xml_writer.h"
+
+namespace {
+
+std::string Text(XMLElement const& element) {
+    UStringBuilder<UTF8> builder;
+    XMLWriter(builder, XMLFormatStyle::Compact).WriteXMLElement(element);
+    return std::string(builder.Ref().AsStringView());
+}
+
+std::string Reparsed(std::string const& document) {
+    return Text(*SimpleXML::Parse(UStringRef<UTF8>(document)));
+}
+
+TEST(SimpleXML, BuildsTheTreeOfWhateverItIsGiven) {
+    struct {
+        char const *document, *tree;
+    } const cases[] = {
+        {"<?xml version='1.0'?>\n<a>\n <b>x</b>\n</a>\n", "<a>\n \n<b>x</b></a>"},
+        {"<a z='1' k='2' z='3'>", "<a k=\"2\" z=\"1\"></a>"},
+        {"<a>one</a><b>two</b>", "<b>two</b>"},
+        {"</x></x><a><b></z>t</a><c>", "<c></c>"},
+        {"<a>1&lt;2<b>x</b>&amp;<![CDATA[<c>]]></a>", "<a>1&lt;2&amp;&lt;c&gt;<b>x</b></a>"},
+    };
+    for (auto& each : cases) EXPECT_EQ(Reparsed(each.document), each.tree) << each.document;
+    for (auto nothing : {"", "text", "<?xml version='1.0'?>", "<!-- <a> -->", "<a/>", "<a"})
+        EXPECT_THROW(SimpleXML::Parse(nothing), FormatError) << nothing;
+}
+
+TEST(SimpleXML, HandlesAsManyLevelsAsAFrameHolds) {
+    constexpr std::size_t levels = (2 << 20) / 3;
+    std::string opening;
+    for (std::size_t i = 0; i < levels; ++i) opening += "<a>";
+    auto root = SimpleXML::Parse(UStringRef<UTF8>(opening));
+    auto copy = *root;
+    root.reset();
+    EXPECT_EQ(Text(copy).size(), levels * 7);
+    copy = XMLElement(copy.Children().front());
+    EXPECT_EQ(Text(copy).size(), (levels - 1) * 7);
+}
+
+TEST(SimpleXML, TakesTheWorstOfAFrameInItsStride) {
+    for (std::string pattern : {"<", "&", "&;", "<>", "<a></a>", "<a b='", "<a b='c'>", "<!--", "]]>", "<![CDATA["}) {
+        std::string document = "<a>";
+        while (document.size() < 2 << 20) document += pattern;
+        EXPECT_EQ(SimpleXML::Parse(UStringRef<UTF8>(document))->Name().AsStringView(), "a") << pattern;
+    }
+    std::string attributes = "<a";
+    for (int i = 0; i < 200'000; ++i) attributes += " k" + std::to_string(i % 100'000) + "=''";
+    EXPECT_EQ(SimpleXML::Parse(UStringRef<UTF8>(attributes + ">"))->Attributes().size(), 100'000u);
+}
+
+}  // namespace

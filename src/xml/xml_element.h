@@ -1,0 +1,60 @@
+#pragma once
+
+#include <vector>
+
+#include "foundation/base/debuggable_exception.h"
+#include "foundation/base/null_or.h"
+#include "xml/xml_attributes.h"
+
+class NoSuchChildElement : public DebuggableException {};
+class NoSuchAttribute : public DebuggableException {};
+
+// An element of a document: its name, its attributes, its text and its child elements, all by value.
+//
+// The text is all character data directly inside the element in one piece, whitespace between the children included;
+// where in it a child stood is not kept. It is UTF-8 by agreement, unchecked.
+//
+// A tree may be as deep as memory allows: copying and destroying one takes a loop, not recursion. Moving is cheap and
+// keeps the descendants where they are. Names are compared byte for byte. Not locked.
+class XMLElement {
+  public:
+    XMLElement(UStringRef<UTF8> name, XMLAttributes const& attributes) : name_(name), attributes_(attributes) {}
+    XMLElement(SharedUString<UTF8> name, ResourceTransfer<XMLAttributes> attributes)
+        : name_(std::move(name)), attributes_(std::move(attributes)) {}
+    // Copies the whole tree below the other.
+    XMLElement(XMLElement const& other);
+    XMLElement(XMLElement&&) noexcept = default;
+    XMLElement& operator=(XMLElement const& other) { return *this = XMLElement(other); }
+    XMLElement& operator=(XMLElement&& other) noexcept;
+    ~XMLElement() { DropChildren(); }
+
+    // The references that these give, and the next, are valid until the element changes.
+    SharedUString<UTF8> const& Name() const { return name_; }
+    XMLAttributes const& Attributes() const { return attributes_; }
+    std::vector<XMLElement> const& Children() const { return children_; }
+    UStringRef<UTF8> GetValue() const { return {value_.data(), value_.data() + value_.size()}; }
+
+    // Appends to the text.
+    void AppendCharacters(UStringRef<UTF8> text) { value_.insert(value_.end(), text.begin(), text.end()); }
+
+    // The first child of that name: null when there is none, or an exception (NoSuchChildElement).
+    NullOrConstRef<XMLElement> FindChildElement(UStringRef<UTF8> name) const;
+    XMLElement const& GetChildElement(UStringRef<UTF8> name) const;
+
+    bool HasAttribute(UStringRef<UTF8> name) const { return attributes_.contains(name); }
+    // Throws NoSuchAttribute.
+    SharedUString<UTF8> const& GetAttribute(UStringRef<UTF8> name) const;
+
+    // Adds a copy, or the element itself, as the last child and returns the child. Adding moves the earlier children,
+    // not what is below them.
+    XMLElement& AddChildElement(XMLElement const& child) { return AddChildElement(XMLElement(child)); }
+    XMLElement& AddChildElement(ResourceTransfer<XMLElement> child);
+
+  private:
+    void DropChildren() noexcept;
+
+    SharedUString<UTF8> name_;
+    XMLAttributes attributes_;
+    std::vector<unsigned char> value_;
+    std::vector<XMLElement> children_;
+};

@@ -1,0 +1,24 @@
+#include "xml/xml_tree_parser.h"
+
+void XMLTreeParser::StartElement(UStringRef<UTF8> name, ResourceTransfer<XMLAttributes> attributes) {
+    XMLElement element(names_.Get(name), std::move(attributes));
+    if (open_.empty()) {
+        root_ = std::make_unique<XMLElement>(std::move(element));
+        open_.push_back(root_.get());
+    } else {
+        open_.push_back(&open_.back()->AddChildElement(std::move(element)));
+    }
+}
+
+void XMLTreeParser::EndElement() {
+    if (!open_.empty()) open_.pop_back();
+}
+
+void XMLTreeParser::Characters(UStringRef<UTF8> text) {
+    if (!open_.empty()) open_.back()->AppendCharacters(text);
+}
+
+std::unique_ptr<XMLElement> XMLTreeParser::TakeRoot() {
+    open_.clear();
+    return std::move(root_);
+}

@@ -1,0 +1,64 @@
+// How long the text of numbers, durations and times takes to write and to read back. One item is one round trip.
+#include <benchmark/benchmark.h>
+
+#include <random>
+#include <vector>
+
+#include "foundation/text/numerals.h"
+#include "foundation/time/text_to_time.h"
+#include "foundation/time/time_to_text.h"
+#include "messages/xml_duration.h"
+
+namespace {
+
+// Values of every magnitude, the same in each run.
+std::vector<long long> Values() {
+    std::mt19937_64 random(1);
+    std::vector<long long> values;
+    for (int i = 0; i < 1'024; ++i) values.push_back(static_cast<long long>(random() >> 1) >> (i % 63));
+    return values;
+}
+
+// Calls `roundTrip` with value after value; the run fails when one does not come back.
+template <class RoundTrip>
+void Measure(benchmark::State& state, RoundTrip roundTrip) {
+    auto const values = Values();
+    for (auto _ : state) {
+        for (auto const value : values)
+            if (roundTrip(value) != value) return state.SkipWithError("a value came back as another");
+    }
+    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(values.size()));
+}
+
+void Numeral(benchmark::State& state) {
+    Measure(state,
+            [](long long value) { return ReadAsciiSignedDecimalNumeral64(MakeAsciiSignedDecimalNumeral64(value, 1)); });
+}
+BENCHMARK(Numeral);
+
+void HexNumeral(benchmark::State& state) {
+    Measure(state, [](long long value) {
+        return static_cast<long long>(
+            ReadAsciiHexNumeral64(MakeAsciiHexNumeral64(static_cast<unsigned long long>(value), 1)));
+    });
+}
+BENCHMARK(HexNumeral);
+
+void Duration(benchmark::State& state) {
+    Measure(state, [](long long value) {
+        return XMLDurationToTimeInterval(TimeIntervalToXMLDuration(TimeInterval(value))).Microseconds();
+    });
+}
+BENCHMARK(Duration);
+
+// Times have whole seconds: the value is counted in them.
+void Time(benchmark::State& state) {
+    Measure(state, [](long long value) {
+        auto const seconds = value % 100'000'000'000;
+        auto const text = TimeToText(TimeObject(Instant(seconds * TimeInterval::kSecond), TimeZone(3'600)));
+        return value - seconds + Instant(TextToTime(text)).Microseconds() / TimeInterval::kSecond;
+    });
+}
+BENCHMARK(Time);
+
+}  // namespace

@@ -1,0 +1,174 @@
+#include "tools/client_messages.h"
+
+#include <ctime>
+#include <stdexcept>
+#include <vector>
+
+namespace tools {
+
+namespace {
+
+enum class Kind { Text, Time, Flag };
+
+struct Field {
+    char const* key;
+    char const* element;
+    Kind kind = Kind::Text;
+};
+
+std::vector<Field> const request_fields = {{"confirm", "PreActionMessage"},
+                                           {"deadline", "Deadline", Kind::Time},
+                                           {"description", "ShortDescription"},
+                                           {"preview", "Preview"},
+                                           {"id", "ID"},
+                                           {"title", "Title"},
+                                           {"cancellable", "Cancellable", Kind::Flag},
+                                           {"restart", "Restart", Kind::Flag},
+                                           {"shutdown", "Shutdown", Kind::Flag},
+                                           {"force", "ForceRun", Kind::Flag},
+                                           {"save", "RequestSave", Kind::Flag},
+                                           {"canned", "UseCannedStrings", Kind::Flag}};
+std::vector<Field> const message_fields = {{"completion", "IsCompletionMessage", Kind::Flag},
+                                           {"timeout", "Timeout"},
+                                           {"title", "Title"},
+                                           {"text", "Message"},
+                                           {"id", "ID"}};
+std::vector<Field> const quiet_fields = {{"start", "StartTime", Kind::Time}, {"end", "EndTime", Kind::Time}};
+std::vector<Field> const base_fields = {{"base", "BaseDirectory"}};
+std::vector<Field> const settings_fields = {{"remind", "RemindInterval"},
+                                            {"remind-time", "RemindTime", Kind::Time},
+                                            {"snooze", "AllowSnooze", Kind::Flag},
+                                            {"locale", "UseLocale", Kind::Flag}};
+
+std::string ContentOf(Kind kind, std::string const& value) {
+    if (kind == Kind::Flag) return value == "no" ? "false" : "true";
+    bool relative = value.starts_with('+') || value.starts_with('-');
+    if (kind == Kind::Time && relative) return TimeText(std::chrono::system_clock::now() + ParseSpan(value));
+    return Escape(value);
+}
+
+std::string Elements(ScenarioLine const& line, std::vector<Field> const& fields) {
+    std::string elements;
+    for (Field const& field : fields) {
+        if (field.kind == Kind::Flag && line.Has(field.key)) elements += Element(field.element, "true");
+        auto value = line.values.find(field.key);
+        if (value != line.values.end()) elements += Element(field.element, ContentOf(field.kind, value->second));
+    }
+    return elements;
+}
+
+std::string Removal(ScenarioLine const& line) {
+    std::string type = line.Word(1);
+    if (!type.empty()) type[0] = static_cast<char>(type[0] - 'a' + 'A');
+    return Element("RemoveRequest", Element("RemoveType", type) + Element("ID", line.Word(2)));
+}
+
+std::string Unescape(std::string text) {
+    for (auto [reference, sign] : {std::pair("&lt;", "<"), {"&gt;", ">"}, {"&quot;", "\""}, {"&amp;", "&"}}) {
+        for (size_t at = 0; (at = text.find(reference, at)) != text.npos; ++at) {
+            text.replace(at, std::string_view(reference).size(), sign);
+        }
+    }
+    return text;
+}
+
+std::string Plain(std::string_view text) {
+    std::string_view const open = "<![CDATA[", close = "]]>";
+    if (!text.starts_with(open)) return Unescape(std::string(text));
+    return std::string(text.substr(open.size(), text.size() - open.size() - close.size()));
+}
+
+}  // namespace
+
+std::string Element(std::string_view name, std::string_view content) {
+    return std::string("<").append(name).append(">").append(content).append("</").append(name).append(">");
+}
+
+std::string Escape(std::string_view text) {
+    std::string escaped;
+    for (char letter : text) {
+        if (letter == '<')
+            escaped += "&lt;";
+        else if (letter == '>')
+            escaped += "&gt;";
+        else if (letter == '&')
+            escaped += "&amp;";
+        else
+            escaped += letter;
+    }
+    return escaped;
+}
+
+std::string Document(std::string_view elements) {
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" + Element("ClientToUI", elements);
+}
+
+std::string TimeText(std::chrono::system_clock::time_point time) {
+    std::time_t seconds = std::chrono::system_clock::to_time_t(time);
+    std::tm parts{};
+    gmtime_r(&seconds, &parts);
+    char text[64];
+    std::strftime(text, sizeof text, "%a, %d %b %Y %H:%M:%S +0000", &parts);
+    return text;
+}
+
+std::string Base64(std::string_view bytes) {
+    std::string_view const digits = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+    std::string text;
+    unsigned waiting = 0, bits = 0;
+    for (char byte : bytes) {
+        waiting = waiting << 8 | static_cast<unsigned char>(byte);
+        for (bits += 8; bits >= 6; bits -= 6) text += digits[waiting >> (bits - 6) & 63];
+    }
+    if (bits > 0) text += digits[waiting << (6 - bits) & 63];
+    return text.append((4 - text.size() % 4) % 4, '=');
+}
+
+std::string SupportFile(std::string_view name, std::string_view bytes) {
+    return Element("SupportFiles",
+                   Element("FileName", Escape(name)) + Element("SubFolder", "") + Element("Content", Base64(bytes)));
+}
+
+std::string MessageFor(ScenarioLine const& line, std::string_view support_files) {
+    std::string verb = line.Word(0);
+    if (verb == "request") return Element("ActionRequest", Elements(line, request_fields));
+    if (verb == "message") return Element("MessageRequest", Elements(line, message_fields));
+    if (verb == "remove") return Removal(line);
+    if (verb == "quiet" && line.Has("end")) return Element("QuietModeEnd", "");
+    if (verb == "quiet") return Element("QuietModeStart", Elements(line, quiet_fields));
+    if (verb != "initialize") return {};
+    return Element("InitializationInfo", Elements(line, base_fields).append(support_files) +
+                                             Element("InitialUISettings", Elements(line, settings_fields)));
+}
+
+std::string Answer::Text() const {
+    std::string text = name;
+    for (auto const& [field, value] : fields) text += " " + field + "=" + value;
+    return text;
+}
+
+Answer ReadAnswer(std::string_view document) {
+    Answer answer;
+    std::vector<std::string_view> open;
+    for (size_t at = document.find("?>"); (at = document.find('<', at)) != document.npos;) {
+        size_t end = document.find('>', at);
+        if (end == document.npos) throw std::runtime_error("not a document: " + std::string(document));
+        if (document[at + 1] == '/') {
+            if (!open.empty()) open.pop_back();
+            at = end;
+            continue;
+        }
+        open.push_back(document.substr(at + 1, end - at - 1));
+        std::string closing = "</" + std::string(open.back()) + ">";
+        if (open.size() == 2) answer.name = open.back();
+        at = end + 1;
+        if (open.size() != 3) continue;
+        end = document.find(closing, at);
+        if (end == document.npos) throw std::runtime_error("not a document: " + std::string(document));
+        answer.fields[std::string(open.back())] = Plain(document.substr(at, end - at));
+        at = end;
+    }
+    return answer;
+}
+
+}  // namespace tools

@@ -1,0 +1,87 @@
+#include "tools/client_process.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <signal.h>
+#include <unistd.h>
+
+#include <stdexcept>
+
+namespace tools {
+
+namespace {
+
+size_t const header_size = 4;
+size_t const largest_answer = 1 << 20;
+std::string_view const declaration = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<";
+
+bool WaitFor(int descriptor, short events, Milliseconds limit) {
+    pollfd entry{descriptor, events, 0};
+    return poll(&entry, 1, static_cast<int>(limit.count())) > 0;
+}
+
+size_t LengthIn(std::string_view header) {
+    size_t length = 0;
+    for (size_t at = header_size; at-- > 0;) length = length << 8 | static_cast<unsigned char>(header[at]);
+    return length;
+}
+
+}  // namespace
+
+std::string Frame(std::string_view text) {
+    std::string frame;
+    for (unsigned shift = 0; shift < 32; shift += 8) frame += static_cast<char>(text.size() >> shift & 0xff);
+    return frame.append(text);
+}
+
+ClientProcess::Pipes::Pipes() : to_program(MakePipe()), from_program(MakePipe()) {
+    signal(SIGPIPE, SIG_IGN);
+    fcntl(to_program.writing.Get(), F_SETFL, O_NONBLOCK);
+}
+
+ClientProcess::ClientProcess(Launch const& launch) : ClientProcess(launch, Pipes()) {}
+
+ClientProcess::ClientProcess(Launch const& launch, Pipes pipes)
+    : sending_(std::move(pipes.to_program.writing)),
+      receiving_(std::move(pipes.from_program.reading)),
+      process_(launch, pipes.to_program.reading.Get(), pipes.from_program.writing.Get()) {}
+
+bool ClientProcess::SendBytes(std::string_view bytes) {
+    while (!bytes.empty()) {
+        if (!WaitFor(sending_.Get(), POLLOUT, std::chrono::seconds(10))) return false;
+        ssize_t written = write(sending_.Get(), bytes.data(), bytes.size());
+        if (written < 0) return false;
+        bytes.remove_prefix(static_cast<size_t>(written));
+    }
+    return true;
+}
+
+std::optional<std::string> ClientProcess::ReceiveFrame(Milliseconds limit) {
+    auto deadline = Clock::now() + limit;
+    std::optional<std::string> frame = TakeFrame();
+    while (!frame && ReadMore(Remaining(deadline))) frame = TakeFrame();
+    return frame;
+}
+
+std::optional<std::string> ClientProcess::TakeFrame() {
+    if (received_.size() < header_size) return std::nullopt;
+    size_t length = LengthIn(received_);
+    if (length > largest_answer) throw std::runtime_error("not a frame: " + received_);
+    if (received_.size() < header_size + length) return std::nullopt;
+    std::string text = received_.substr(header_size, length);
+    received_.erase(0, header_size + length);
+    if (!text.starts_with(declaration)) throw std::runtime_error("not a document: " + text);
+    return text;
+}
+
+bool ClientProcess::ReadMore(Milliseconds limit) {
+    if (!WaitFor(receiving_.Get(), POLLIN, limit)) return false;
+    char block[4096];
+    ssize_t got = read(receiving_.Get(), block, sizeof block);
+    if (got <= 0 && !received_.empty()) throw std::runtime_error("the last frame is cut short: " + received_);
+    if (got <= 0) return false;
+    received_.append(block, static_cast<size_t>(got));
+    return true;
+}
+
+}  // namespace tools

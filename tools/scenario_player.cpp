@@ -1,0 +1,211 @@
+#include "tools/scenario_player.h"
+
+#include <algorithm>
+#include <ctime>
+#include <fstream>
+#include <iomanip>
+#include <sstream>
+#include <stdexcept>
+
+#include "tools/client_messages.h"
+
+namespace tools {
+
+namespace {
+
+size_t const longest_logged = 4000;
+char const* const row_list = "form.viewport.List";
+char const* const hidden_window = "QENClientUIHiddenWindow";
+
+std::string Stamp() {
+    auto now = std::chrono::system_clock::now();
+    std::time_t seconds = std::chrono::system_clock::to_time_t(now);
+    std::tm parts{};
+    localtime_r(&seconds, &parts);
+    auto millis = std::chrono::duration_cast<Milliseconds>(now.time_since_epoch()).count() % 1000;
+    std::ostringstream stamp;
+    stamp << std::put_time(&parts, "%H:%M:%S.") << std::setfill('0') << std::setw(3) << millis;
+    return stamp.str();
+}
+
+}  // namespace
+
+ScenarioPlayer::ScenarioPlayer(PlayerOptions options) : options_(std::move(options)), program_(options_.launch) {}
+
+void ScenarioPlayer::Play(std::string_view lines) {
+    std::istringstream stream{std::string(lines)};
+    for (std::string text; std::getline(stream, text);) {
+        try {
+            ScenarioLine line = ParseScenarioLine(text);
+            if (!line.words.empty()) PlayLine(Complete(line));
+        } catch (std::runtime_error const& error) {
+            throw std::runtime_error(text + ": " + error.what());
+        }
+    }
+}
+
+void ScenarioPlayer::PlayLine(ScenarioLine const& line) {
+    static std::map<std::string, Verb> const verbs = {
+        {"support-file", &ScenarioPlayer::AddSupportFile},
+        {"raw", &ScenarioPlayer::SendRaw},
+        {"expect", &ScenarioPlayer::Expect},
+        {"wait", &ScenarioPlayer::WaitFor},
+        {"click", &ScenarioPlayer::Click},
+        {"select", &ScenarioPlayer::Select},
+        {"drag", &ScenarioPlayer::Drag},
+        {"screenshot", &ScenarioPlayer::Screenshot},
+        {"open", &ScenarioPlayer::Open},
+        {"close", &ScenarioPlayer::Close},
+    };
+    auto verb = verbs.find(line.Word(0));
+    if (verb != verbs.end()) return (this->*verb->second)(line);
+    std::string message = MessageFor(line, support_files_);
+    if (message.empty()) throw std::runtime_error("unknown verb");
+    SendDocument(Document(message));
+}
+
+std::string ScenarioPlayer::DocumentFor(std::string_view lines) const {
+    std::istringstream stream{std::string(lines)};
+    std::string elements;
+    for (std::string text; std::getline(stream, text);) {
+        elements += MessageFor(Complete(ParseScenarioLine(text)), support_files_);
+    }
+    return Document(elements);
+}
+
+void ScenarioPlayer::SendDocument(std::string const& document) {
+    Log("client -> program", document);
+    if (!program_.SendFrame(document)) throw std::runtime_error("the program does not read");
+}
+
+std::string ScenarioPlayer::Receive(Milliseconds limit) {
+    auto text = program_.ReceiveFrame(limit);
+    if (!text) throw std::runtime_error("no answer; the program: " + program_.WaitForEnd(Milliseconds(0)));
+    Log("program -> client", *text);
+    last_answer_ = ReadAnswer(*text).Text();
+    return *text;
+}
+
+DisplayDriver& ScenarioPlayer::Screen() {
+    if (!screen_) {
+        auto display = options_.launch.environment.find("DISPLAY");
+        bool own = display != options_.launch.environment.end() && display->second;
+        screen_ = std::make_unique<DisplayDriver>(own ? *display->second : "");
+    }
+    return *screen_;
+}
+
+void ScenarioPlayer::AddSupportFile(ScenarioLine const& line) {
+    support_files_ += SupportFile(line.Word(1), line.Word(2));
+}
+
+void ScenarioPlayer::SendRaw(ScenarioLine const& line) {
+    SendDocument(line.Word(1));
+}
+
+void ScenarioPlayer::Expect(ScenarioLine const& line) {
+    if (line.Word(1) == "exit") {
+        std::string ending = program_.WaitForEnd(LimitOf(line));
+        if (ending != "exit " + line.Word(2)) throw std::runtime_error("the program: " + ending);
+        return Log("program ended: " + ending, "");
+    }
+    Answer answer = ReadAnswer(Receive(LimitOf(line)));
+    bool fits =
+        answer.name == line.Word(1) && std::all_of(line.values.begin(), line.values.end(), [&](auto const& value) {
+            auto field = answer.fields.find(value.first);
+            return field != answer.fields.end() && field->second == value.second;
+        });
+    if (!fits) throw std::runtime_error("came: " + answer.Text());
+}
+
+void ScenarioPlayer::WaitFor(ScenarioLine const& line) {
+    if (line.Word(1) == "widget") return WaitForResource(line, LimitOf(line));
+    if (line.Has("gone")) return Screen().WaitUntilGone(line.Word(2), LimitOf(line));
+    window_ = Screen().WaitForWindow(line.Word(2), LimitOf(line));
+}
+
+void ScenarioPlayer::WaitForResource(ScenarioLine const& line, Milliseconds limit) {
+    for (auto const& [resource, wanted] : line.values) {
+        std::string found;
+        auto fits = [&] { return (found = Screen().ReadResource(window_, line.Word(2), resource)) == wanted; };
+        if (!WaitUntil(limit, fits)) throw std::runtime_error("it is " + found);
+    }
+}
+
+void ScenarioPlayer::Click(ScenarioLine const& line) {
+    if (!Instructs("click " + line.Word(1))) Screen().Click(window_, line.Word(1));
+}
+
+void ScenarioPlayer::Select(ScenarioLine const& line) {
+    if (Instructs("select row " + line.Word(2) + " of the list")) return;
+    Screen().ClickLine(window_, line.Has("in") ? line.Word(4) : row_list, std::stoul(line.Word(2)));
+}
+
+void ScenarioPlayer::Drag(ScenarioLine const& line) {
+    if (Instructs("drag " + line.Word(1))) return;
+    Screen().Drag(window_, line.Word(1), std::stod(line.Word(2)), std::stod(line.Word(3)));
+}
+
+void ScenarioPlayer::Screenshot(ScenarioLine const& line) {
+    if (options_.interactive) return;
+    auto file = options_.output / line.Word(1);
+    if (window_) Screen().WaitUntilDrawn(window_);
+    Screen().Screenshot(file, line.Has("window") ? window_ : 0);
+    Log("screenshot: " + file.string(), "");
+}
+
+void ScenarioPlayer::Open(ScenarioLine const&) {
+    DisplayDriver& screen = Screen();
+    Window window = 0;
+    if (!WaitUntil(std::chrono::seconds(5), [&] { return (window = screen.FindWindow(hidden_window)) != 0; })) {
+        throw std::runtime_error("no hidden window");
+    }
+    screen.SendText(window, "open");
+}
+
+void ScenarioPlayer::Close(ScenarioLine const& line) {
+    if (line.Has("window")) return Screen().RequestClose(window_);
+    program_.CloseReceiving();
+    if (!line.Has("reading")) program_.CloseSending();
+}
+
+bool ScenarioPlayer::Instructs(std::string const& instruction) {
+    if (options_.interactive) Log("please: " + instruction, "");
+    return options_.interactive;
+}
+
+Milliseconds ScenarioPlayer::LimitOf(ScenarioLine const& line) const {
+    if (options_.interactive) return std::chrono::hours(1);
+    auto within = std::find(line.words.begin(), line.words.end(), "within");
+    return within == line.words.end() ? std::chrono::seconds(5) : ParseSpan(*std::next(within));
+}
+
+// Fills in what a scenario leaves out or keeps in a file.
+ScenarioLine ScenarioPlayer::Complete(ScenarioLine line) const {
+    for (auto& [key, value] : line.values) {
+        if (value.starts_with('@')) value = ReadFile(value.substr(1));
+    }
+    for (auto& word : line.words) {
+        if (word.starts_with('@')) word = ReadFile(word.substr(1));
+    }
+    if (line.Word(0) == "initialize") line.values.try_emplace("base", (options_.output / "base").string());
+    return line;
+}
+
+std::string ScenarioPlayer::ReadFile(std::string const& name) const {
+    std::ifstream file(options_.directory / name, std::ios::binary);
+    if (!file) throw std::runtime_error("no file " + name);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+void ScenarioPlayer::Log(std::string const& title, std::string_view text) {
+    if (!options_.log) return;
+    *options_.log << Stamp() << "  " << title;
+    if (!text.empty()) *options_.log << ", " << text.size() << " bytes";
+    *options_.log << std::endl;
+    std::istringstream lines{std::string(text.substr(0, longest_logged))};
+    for (std::string line; std::getline(lines, line);) *options_.log << "    " << line << std::endl;
+    if (text.size() > longest_logged) *options_.log << "    ..." << std::endl;
+}
+
+}  // namespace tools

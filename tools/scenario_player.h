@@ -1,0 +1,75 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <ostream>
+#include <string>
+#include <string_view>
+
+#include "tools/client_process.h"
+#include "tools/display_driver.h"
+#include "tools/scenario_line.h"
+
+namespace tools {
+
+struct PlayerOptions {
+    Launch launch;
+    std::filesystem::path directory;  // where files named with "@" lie
+    std::filesystem::path output;     // for screenshots, and for the program's base directory
+    bool interactive = false;         // asks the person at the display instead of moving the pointer
+    std::ostream* log = nullptr;      // for every message that crosses the pipes, and every instruction
+};
+
+// Plays the client's part, and the user's, from the lines of a scenario. tools/README.md describes them.
+//
+// What a line expects and does not find throws std::runtime_error that quotes the line.
+class ScenarioPlayer {
+  public:
+    // Starts the program.
+    explicit ScenarioPlayer(PlayerOptions options);
+
+    void Play(std::string_view lines);
+
+    // The document that message lines stand for, all their elements in one.
+    std::string DocumentFor(std::string_view lines) const;
+    void SendDocument(std::string const& document);
+    // The next answer; throws std::runtime_error when none comes within `limit`.
+    std::string Receive(Milliseconds limit);
+    // Its name and fields in one line; empty before the first.
+    std::string const& LastAnswer() const { return last_answer_; }
+
+    ClientProcess& Program() { return program_; }
+    // Connects at the first use.
+    DisplayDriver& Screen();
+
+  private:
+    using Verb = void (ScenarioPlayer::*)(ScenarioLine const&);
+
+    void PlayLine(ScenarioLine const& line);
+    void AddSupportFile(ScenarioLine const& line);
+    void SendRaw(ScenarioLine const& line);
+    void Expect(ScenarioLine const& line);
+    void WaitFor(ScenarioLine const& line);
+    void WaitForResource(ScenarioLine const& line, Milliseconds limit);
+    void Click(ScenarioLine const& line);
+    void Select(ScenarioLine const& line);
+    void Drag(ScenarioLine const& line);
+    void Screenshot(ScenarioLine const& line);
+    void Open(ScenarioLine const& line);
+    void Close(ScenarioLine const& line);
+
+    bool Instructs(std::string const& instruction);
+    Milliseconds LimitOf(ScenarioLine const& line) const;
+    ScenarioLine Complete(ScenarioLine line) const;
+    std::string ReadFile(std::string const& name) const;
+    void Log(std::string const& title, std::string_view text);
+
+    PlayerOptions options_;
+    ClientProcess program_;
+    std::unique_ptr<DisplayDriver> screen_;
+    std::string support_files_;
+    std::string last_answer_;
+    Window window_ = 0;  // the one waited for last, which clicks are meant for
+};
+
+}  // namespace tools

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "tools/child_process.h"
+
+namespace tools {
+
+// An X server without a screen, for one test or one demonstration. It dies with the object.
+class VirtualDisplay {
+  public:
+    // Returns once the server accepts connections; throws std::runtime_error when it cannot be started.
+    VirtualDisplay();
+
+    // As in DISPLAY.
+    std::string const& Name() const { return name_; }
+
+    // Starts openbox and returns once it manages the windows.
+    void StartWindowManager();
+
+    // Ends the server as a crash would.
+    void Kill();
+
+  private:
+    PipeEnds announcement_;
+    ChildProcess server_;
+    std::string name_;
+    PipeEnds manager_announcement_;
+    std::unique_ptr<ChildProcess> window_manager_;
+};
+
+}  // namespace tools

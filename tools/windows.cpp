@@ -1,0 +1,117 @@
+#include "tools/windows.h"
+
+#include <X11/Xutil.h>
+
+#include <vector>
+
+namespace tools {
+
+namespace {
+
+int const deepest_frame = 3;
+
+struct Family {
+    Window parent = None;
+    std::vector<Window> children;
+};
+
+Family FamilyOf(Display* display, Window window) {
+    Family family;
+    Window root = None;
+    Window* children = nullptr;
+    unsigned count = 0;
+    if (!XQueryTree(display, window, &root, &family.parent, &children, &count)) return family;
+    if (children) family.children.assign(children, children + count);
+    XFree(children);
+    return family;
+}
+
+bool HasName(Display* display, Window window, std::string const& name) {
+    XClassHint hint{};
+    bool matches = XGetClassHint(display, window, &hint) && hint.res_name && name == hint.res_name;
+    XFree(hint.res_name);
+    XFree(hint.res_class);
+    return matches || TitleOf(display, window) == name;
+}
+
+Window Search(Display* display, Window parent, std::string const& name, int depth) {
+    for (Window child : FamilyOf(display, parent).children) {
+        if (HasName(display, child, name)) return child;
+        Window found = depth > 1 ? Search(display, child, name, depth - 1) : None;
+        if (found) return found;
+    }
+    return None;
+}
+
+}  // namespace
+
+void IgnoreErrors(Display* display) {
+    XSetErrorHandler([](Display*, XErrorEvent*) { return 0; });
+    XSetIOErrorExitHandler(
+        display, [](Display*, void*) {}, nullptr);
+}
+
+Window FindTopLevel(Display* display, std::string const& name) {
+    return Search(display, DefaultRootWindow(display), name, deepest_frame);
+}
+
+std::string TitleOf(Display* display, Window window) {
+    XTextProperty property{};
+    char** texts = nullptr;
+    int count = 0;
+    if (!XGetWMName(display, window, &property)) return {};
+    Xutf8TextPropertyToTextList(display, &property, &texts, &count);
+    std::string title = count > 0 ? texts[0] : "";
+    XFreeStringList(texts);
+    XFree(property.value);
+    return title;
+}
+
+bool IsOnScreen(Display* display, Window window) {
+    XWindowAttributes attributes{};
+    return window && XGetWindowAttributes(display, window, &attributes) && attributes.map_state == IsViewable;
+}
+
+Window ParentOf(Display* display, Window window) {
+    return FamilyOf(display, window).parent;
+}
+
+Area AreaOf(Display* display, Window window) {
+    XWindowAttributes attributes{};
+    Window child = None;
+    Area area{};
+    if (!XGetWindowAttributes(display, window, &attributes)) return area;
+    XTranslateCoordinates(display, window, DefaultRootWindow(display), 0, 0, &area.x, &area.y, &child);
+    return {area.x, area.y, attributes.width, attributes.height};
+}
+
+Area VisibleArea(Display* display, Window window) {
+    Area area = AreaOf(display, window);
+    for (Window parent = ParentOf(display, window); parent != None; parent = ParentOf(display, parent)) {
+        area = Intersect(area, AreaOf(display, parent));
+    }
+    return area;
+}
+
+Window WindowUnderPointer(Display* display) {
+    Window window = None, root = None, child = DefaultRootWindow(display);
+    int x = 0, y = 0, inner_x = 0, inner_y = 0;
+    unsigned mask = 0;
+    while (child != None) {
+        window = child;
+        if (!XQueryPointer(display, window, &root, &child, &x, &y, &inner_x, &inner_y, &mask)) break;
+    }
+    return window;
+}
+
+void SendClientMessage(Display* display, Window destination, XClientMessageEvent message) {
+    XEvent event{};
+    event.xclient = message;
+    event.xclient.type = ClientMessage;
+    bool to_manager = destination == DefaultRootWindow(display);
+    long mask = to_manager ? SubstructureNotifyMask | SubstructureRedirectMask : NoEventMask;
+    XSendEvent(display, destination, False, mask, &event);
+    XFlush(display);
+}
+
+}  // namespace tools

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <X11/Xlib.h>
+
+#include <string>
+
+#include "tools/pixels.h"
+
+namespace tools {
+
+// Asks the server about windows of other programs. Each of them may vanish at any moment; then it has no name, is not
+// shown and lies nowhere, see IgnoreErrors.
+
+// From then on X errors, and the loss of this connection, do not end the process.
+void IgnoreErrors(Display* display);
+
+// The first window, at the top level or inside the frames that a window manager puts around such a one, that `name`
+// stands for: its title or the instance name of its WM_CLASS. 0 when there is none.
+Window FindTopLevel(Display* display, std::string const& name);
+
+// In UTF-8.
+std::string TitleOf(Display* display, Window window);
+
+// Whether it and all its ancestors are mapped.
+bool IsOnScreen(Display* display, Window window);
+
+// 0 for the root.
+Window ParentOf(Display* display, Window window);
+
+// Without its border.
+Area AreaOf(Display* display, Window window);
+
+// What its ancestors leave of it.
+Area VisibleArea(Display* display, Window window);
+
+// The innermost one.
+Window WindowUnderPointer(Display* display);
+
+// Sends `message` to whoever manages windows when `destination` is the root, otherwise to the program that made it.
+void SendClientMessage(Display* display, Window destination, XClientMessageEvent message);
+
+}  // namespace tools
