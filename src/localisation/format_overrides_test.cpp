@@ -31,6 +31,7 @@ TEST(FormatOverrideSetTest, LinesWithATabAreEntries) {
         {"Cancel\t", "Cancel", ""},
         {"Cancel", "Cancel", "-"},
         {"\tCancel\tAbbrechen", "Cancel", "-"},
+        {"\tAbbrechen", "", "-"},
         {"Cancel \tAbbrechen", "Cancel", "-"},
         {" Cancel\t Abbrechen ", " Cancel", " Abbrechen "},
         {"# a comment\r\n\r\nCancel\tAbbrechen\r\nOK\tJa\r\n", "Cancel", "Abbrechen"},

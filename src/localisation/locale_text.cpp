@@ -10,6 +10,14 @@ namespace UnixPlatform {
 
 namespace {
 
+template <class Value>
+AutoUString<UTF8> Written(Value const& value) {
+    unsigned char room[32];
+    Buffer text(room);
+    text << value;
+    return text.MakeText();
+}
+
 AutoUString<UTF8> NameOf(DayOfWeek day, char const* const (&names)[7]) {
     auto index = static_cast<std::size_t>(day);
     return MakeUString(UFormat(index < 7 ? names[index] : "???"));
@@ -18,17 +26,11 @@ AutoUString<UTF8> NameOf(DayOfWeek day, char const* const (&names)[7]) {
 }  // namespace
 
 AutoUString<UTF8> FormattedTimeOfDay(TimeOfDay const& time) {
-    unsigned char room[16];
-    Buffer text(room);
-    text << time;
-    return text.MakeText();
+    return Written(time);
 }
 
 AutoUString<UTF8> FormattedDateRecord(DateRecord const& date) {
-    unsigned char room[32];
-    Buffer text(room);
-    text << date;
-    return text.MakeText();
+    return Written(date);
 }
 
 AutoUString<UTF8> FormattedLocalTime(Instant const& instant) {
