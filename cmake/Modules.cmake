@@ -18,14 +18,20 @@ function(add_module name)
   endif()
 endfunction()
 
-# add_test_program(<name> SOURCES ... [LINKS ...] [ARGUMENTS ...]): a GoogleTest program, its cases known to ctest one
-# by one so that they run side by side. LABELS are ctest's.
+# add_test_program(<name> SOURCES ... [LINKS ...] [LABELS ...]): a GoogleTest program, its cases known to ctest one by one
+# so that they run side by side. LABELS are ctest's; the target <label>_tests builds all programs of that label.
 function(add_test_program name)
   cmake_parse_arguments(PARSE_ARGV 1 program "" "" "SOURCES;LINKS;LABELS")
   add_executable(${name} ${program_SOURCES})
   target_link_libraries(${name} PRIVATE ${program_LINKS} GTest::gmock GTest::gtest_main)
   gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 TEST_PREFIX "${name}." PROPERTIES TIMEOUT 120 LABELS
                                                                                     "${program_LABELS}")
+  foreach(label IN LISTS program_LABELS)
+    if(NOT TARGET ${label}_tests)
+      add_custom_target(${label}_tests)
+    endif()
+    add_dependencies(${label}_tests ${name})
+  endforeach()
 endfunction()
 
 # add_benchmark_program(<name> SOURCES ... [LINKS ...]): a Google Benchmark program, run by hand for figures. ctest runs
