@@ -7,12 +7,13 @@ namespace {
 
 constexpr unsigned char no_value = 64;
 
+constexpr std::string_view alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+
 constexpr std::array<unsigned char, 256> MakeValues() {
     std::array<unsigned char, 256> values{};
     values.fill(no_value);
     unsigned char next = 0;
-    for (char character : std::string_view("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/"))
-        values[static_cast<unsigned char>(character)] = next++;
+    for (char character : alphabet) values[static_cast<unsigned char>(character)] = next++;
     return values;
 }
 constexpr auto values = MakeValues();
@@ -36,4 +37,19 @@ Stringy DecodeBase64(ConstData text) {
     bytes.reserve(text.size() / 4 * 3 + 3);
     Base64Decoder().Decode(text, bytes);
     return bytes;
+}
+
+Stringy EncodeBase64(ConstData bytes) {
+    Stringy text;
+    text.reserve(bytes.size() / 3 * 4 + 4);
+    std::uint32_t bits = 0;
+    int waiting = 0;
+    auto emit = [&](std::uint32_t value) { text += alphabet[value & 0x3F]; };
+    for (unsigned char byte : bytes) {
+        bits = bits << 8 | byte;
+        for (waiting += 8; waiting >= 6;) emit(bits >> (waiting -= 6));
+    }
+    if (waiting > 0) emit(bits << (6 - waiting));
+    text.append((4 - text.size() % 4) % 4, '=');
+    return text;
 }

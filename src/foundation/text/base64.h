@@ -22,3 +22,6 @@ class Base64Decoder {
 
 // The whole of `text` at once.
 Stringy DecodeBase64(ConstData text);
+
+// `bytes` in the standard alphabet, padded, in one line.
+Stringy EncodeBase64(ConstData bytes);

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "foundation/base/null_or.h"
+#include "foundation/text/shared_ustring.h"
+#include "foundation/time/instant.h"
+#include "foundation/time/time_object.h"
+
+class XMLElement;
+
+// One pending action that the client offers to the user: a value, cheap to copy since its texts are shared.
+struct ActionRequest {
+    using Text = SharedUString<UTF8>;
+
+    // Empty: no texts, no deadline, ID 0, every flag false.
+    ActionRequest() = default;
+    ActionRequest(unsigned long long id, NullOr<TimeObject> deadline, UStringRef<UTF8> title,
+                  UStringRef<UTF8> description, bool cancellable, bool restart, bool shutdown, bool force_run,
+                  bool request_save, bool use_canned_strings, NullOr<Text> preview, NullOr<Text> pre_action_message);
+
+    // The deadline as the client sent it, on the time line; null when there is none.
+    NullOr<Instant> Deadline() const;
+    void SetTitle(UStringRef<UTF8> title);
+    void SetDescription(UStringRef<UTF8> description);
+
+    NullOr<Text> pre_action_message;  // What the user must acknowledge before the action is taken.
+    NullOr<TimeObject> deadline;
+    Text short_description;
+    NullOr<Text> preview;  // The action's script.
+    unsigned long long id = 0;
+    Text title;
+    bool cancellable = false;
+    bool restart = false;
+    bool shutdown = false;
+    bool force_run = false;  // Taken by itself once the deadline has passed.
+    bool request_save = false;
+    bool use_canned_strings = false;
+};
+
+// Reads the fields that the element has; the others keep what they hold. A malformed number or time throws what its
+// reader throws (numerals.h, time_text.h), and the fields before it stay read.
+void XMLSerialize(XMLElement const& element, ActionRequest& request);

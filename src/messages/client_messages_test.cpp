@@ -1,0 +1,155 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "foundation/files/file_errors.h"
+#include "foundation/text/numerals.h"
+#include "foundation/text/ustring_builder.h"
+#include "messages/action_request.h"
+#include "messages/initialization_info.h"
+#include "messages/message_request.h"
+#include "messages/quiet_mode_start.h"
+#include "messages/remove_request.h"
+#include "xml/serialize.h"
+#include "xml/simple_xml.h"
+
+namespace {
+
+auto Parsed(std::string const& text) {
+    return SimpleXML::Parse(UStringRef<UTF8>(std::string_view(text)));
+}
+
+template <class Record>
+Record Read(std::string const& children) {
+    Record record;
+    XMLSerialize(*Parsed("<m>" + children + "</m>"), record);
+    return record;
+}
+
+RemoveRequest ReadRemoval(std::string const& children) {
+    RemoveRequest request;
+    XMLLoad(*Parsed("<m>" + children + "</m>"), request);
+    return request;
+}
+
+TEST(ActionRequestTest, EveryFieldIsReadAndTheFirstOfEqualNamesCounts) {
+    auto request = Read<ActionRequest>(
+        "<ID>18446744073709551615</ID><ID>1</ID><Title> T </Title><ShortDescription>S</ShortDescription>"
+        "<Deadline>Thu, 01 Jan 1970 01:00:05 +0100</Deadline><Preview></Preview>"
+        "<PreActionMessage>&lt;sure?></PreActionMessage><Cancellable>yes</Cancellable><Restart>1</Restart>"
+        "<Shutdown>True</Shutdown><ForceRun></ForceRun><RequestSave>false</RequestSave>"
+        "<UseCannedStrings>0</UseCannedStrings>");
+    EXPECT_EQ(request.id, 18446744073709551615u);
+    EXPECT_EQ(request.title.AsStringView(), " T ");
+    EXPECT_EQ(request.short_description.AsStringView(), "S");
+    EXPECT_EQ(*request.Deadline(), Instant(5'000'000));
+    EXPECT_TRUE(request.preview && request.preview->empty());
+    EXPECT_EQ(request.pre_action_message->AsStringView(), "<sure?>");
+    EXPECT_TRUE(request.cancellable && request.restart && request.shutdown && request.force_run);
+    EXPECT_FALSE(request.request_save || request.use_canned_strings);
+}
+
+TEST(ActionRequestTest, AbsentFieldsKeepTheirDefaults) {
+    auto request = Read<ActionRequest>("");
+    EXPECT_FALSE(request.Deadline() || request.preview || request.pre_action_message);
+    EXPECT_EQ(request.id, 0u);
+    EXPECT_TRUE(request.title.empty());
+    EXPECT_FALSE(request.cancellable || request.restart || request.shutdown || request.force_run);
+}
+
+TEST(ActionRequestTest, MalformedValuesThrow) {
+    EXPECT_THROW(Read<ActionRequest>("<ID>-1</ID>"), NotANumeral);
+    EXPECT_THROW(Read<ActionRequest>("<ID>18446744073709551616</ID>"), NumeralTooLarge);
+    for (auto deadline : {"", "tomorrow", "Thu, 32 Jan 1970 01:00:05 +0100", "Thu, 01 Jan 1970 24:00:00 +0000"})
+        EXPECT_ANY_THROW(Read<ActionRequest>("<Deadline>" + std::string(deadline) + "</Deadline>")) << deadline;
+}
+
+TEST(RemoveRequestTest, OnlyTheExactTypeNamesCount) {
+    struct {
+        char const* children;
+        RemoveType type;
+    } const cases[] = {{"", RemoveType::All},
+                       {"<RemoveType>Action</RemoveType>", RemoveType::Action},
+                       {"<RemoveType>Offer</RemoveType>", RemoveType::Offer},
+                       {"<RemoveType>Message</RemoveType>", RemoveType::Message},
+                       {"<RemoveType>All</RemoveType>", RemoveType::All},
+                       {"<RemoveType>action</RemoveType>", RemoveType::All},
+                       {"<RemoveType> Action</RemoveType>", RemoveType::All}};
+    for (auto const& c : cases) EXPECT_EQ(ReadRemoval(c.children).remove_type, c.type) << c.children;
+}
+
+TEST(RemoveRequestTest, WhatIsWrittenReadsBack) {
+    for (int type = 0; type <= 3; ++type) {
+        UStringBuilder<UTF8> text;
+        XMLWriter writer(text, XMLFormatStyle::Indented);
+        writer.BeginElement("RemoveRequest");
+        XMLSave(writer, RemoveRequest{77, static_cast<RemoveType>(type)});
+        writer.EndDocument();
+        RemoveRequest back;
+        XMLLoad(*SimpleXML::Parse(text.Ref()), back);
+        EXPECT_EQ(back.id, 77u);
+        EXPECT_EQ(static_cast<int>(back.remove_type), type);
+    }
+}
+
+TEST(MessageRequestTest, ATimeoutIsAnOptionalDuration) {
+    auto request = Read<MessageRequest>(
+        "<IsCompletionMessage>1</IsCompletionMessage><Timeout>PT1M30S</Timeout><Title>T</Title><Message>M</Message>"
+        "<ID>3</ID>");
+    EXPECT_TRUE(request.is_completion_message);
+    EXPECT_EQ(*request.timeout, TimeInterval::Seconds(90));
+    EXPECT_EQ(request.message.AsStringView(), "M");
+    EXPECT_FALSE(Read<MessageRequest>("<ID>3</ID>").timeout);
+    EXPECT_ANY_THROW(Read<MessageRequest>("<Timeout>soon</Timeout>"));
+}
+
+TEST(QuietModeStartTest, AnAbsentTimeIsTheBeginningOf1970) {
+    auto period = Read<QuietModeStart>("<EndTime>Fri, 02 Jan 1970 00:00:00 +0000</EndTime>");
+    EXPECT_EQ(Instant(period.start_time), Instant(0));
+    EXPECT_EQ(Instant(period.end_time), Instant(TimeInterval::kDay));
+}
+
+std::string File(std::string const& name, std::string const& folder = "", std::string const& content = "") {
+    return "<SupportFiles><FileName>" + name + "</FileName><SubFolder>" + folder + "</SubFolder><Content>" + content +
+           "</Content></SupportFiles>";
+}
+
+TEST(InitializationInfoTest, SupportFilesSettingsAndDirectoryAreRead) {
+    auto info = Read<InitializationInfo>(
+        "<BaseDirectory>/var/ui</BaseDirectory>" + File("a", "", "QQ==") +
+        "<InitialUISettings><RemindInterval>PT5M</RemindInterval><HistoryMode>4294967295</HistoryMode>"
+        "<AllowSnooze>1</AllowSnooze><UseLocale>1</UseLocale><InitialTabID></InitialTabID></InitialUISettings>" +
+        File("b", "sub"));
+    ASSERT_EQ(info.SupportFiles().size(), 2u);
+    EXPECT_EQ(info.SupportFiles()[0].Content(), "QQ==");
+    EXPECT_TRUE(info.SupportFiles()[0].IsTopLevel());
+    EXPECT_FALSE(info.SupportFiles()[1].IsTopLevel());
+    EXPECT_EQ(info.BaseDirectory().AsStringView(), "/var/ui");
+    EXPECT_EQ(info.Settings().remind_interval, TimeInterval::Minutes(5));
+    EXPECT_EQ(info.Settings().history_mode, 4294967295u);
+    EXPECT_TRUE(info.Settings().allow_snooze && info.Settings().use_locale && info.InitialTabID());
+    EXPECT_FALSE(info.Settings().max_history_age);
+    EXPECT_FALSE(Read<InitializationInfo>("").Settings().allow_snooze);
+    EXPECT_THROW(Read<InitializationInfo>("<InitialUISettings><TrayMode>4294967296</TrayMode></InitialUISettings>"),
+                 NumeralTooLarge);
+}
+
+TEST(InitializationInfoTest, TranslationsAreFoundByLocaleThenLanguageIgnoringCase) {
+    auto info = Read<InitializationInfo>(File("fr.xlat", "", "first") + File("de.xlat", "sub") + File("FR_ca.XLAT") +
+                                         File("FR.XLAT", "", "second") + File("_brandFR.xlat") + File("_BRAND.xlat"));
+    auto name = [](NullOrConstRef<FileTransfer> found) {
+        return found ? std::string(found->Name().AsStringView()) : std::string("none");
+    };
+    FileName const fr("fr"), fr_CA("fr_CA"), de("de"), none;
+    EXPECT_EQ(name(info.GeneralLocalization(fr_CA, fr)), "FR_ca.XLAT");
+    EXPECT_EQ(name(info.GeneralLocalization(FileName("fr_BE"), fr)), "fr.xlat");
+    EXPECT_EQ(info.GeneralLocalization(fr, none)->Content(), "first");
+    EXPECT_EQ(name(info.GeneralLocalization(none, none)), "none");
+    EXPECT_EQ(name(info.GeneralLocalization(de, none)), "none");
+    EXPECT_EQ(name(info.LocalizedBrandTranslation(fr_CA, fr)), "_brandFR.xlat");
+    EXPECT_EQ(name(info.BrandTranslation()), "_BRAND.xlat");
+    EXPECT_EQ(name(info.BrandIcon()), "none");
+    EXPECT_THROW(info.GeneralLocalization(FileName(std::string(250, 'x')), none), IllegalFileName);
+}
+
+}  // namespace
