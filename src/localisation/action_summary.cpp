@@ -1,0 +1,82 @@
+#include "localisation/action_summary.h"
+
+#include <string_view>
+#include <vector>
+
+#include "localisation/action_sentences.h"
+#include "localisation/deadline_text.h"
+#include "localisation/summary_row.h"
+#include "localisation/uformat.h"
+
+namespace {
+
+constexpr TimeInterval kSoon = TimeInterval::Seconds(300);
+
+struct Sentence {
+    FormatPlusArguments<0> format;
+    bool has_deadline_text;
+};
+using Family = std::vector<Sentence>;
+
+Family MakeFamily(ActionSentences const& sentences) {
+    Family family;
+    for (std::string_view english : sentences)
+        family.push_back({UFormat(english.data()), english.find("{DeadlineText}") != english.npos});
+    return family;
+}
+
+Family const& SentencesOf(ActionFamily family) {
+    switch (family) {
+        case ActionFamily::One: {
+            static Family const one = MakeFamily(kOneActionSentences);
+            return one;
+        }
+        case ActionFamily::Selected: {
+            static Family const selected = MakeFamily(kSelectedActionsSentences);
+            return selected;
+        }
+        case ActionFamily::Pending:
+            break;
+    }
+    static Family const pending = MakeFamily(kPendingActionsSentences);
+    return pending;
+}
+
+AutoUString<UTF8> Render(ActionFamily family, SummaryFacts facts, Instant deadline) {
+    Instant const now = Instant::Now();
+    facts.soon = facts.has_deadline && deadline < now + kSoon;
+    auto const& sentence = SentencesOf(family)[static_cast<std::size_t>(SummaryRow(family, facts))];
+    if (!sentence.has_deadline_text) return MakeUString(sentence.format);
+    auto text = FormattedDeadline(deadline, now, facts.forced, false);
+    return MakeUString(FormatPlusArguments<1>(sentence.format, text));
+}
+
+}  // namespace
+
+AutoUString<UTF8> ActionSummary(ActionRequest const& action) {
+    auto const deadline = action.Deadline();
+    SummaryFacts facts{.save = action.request_save,
+                       .restart = action.restart,
+                       .shutdown = action.shutdown,
+                       .has_deadline = !deadline.IsNull(),
+                       .forced = action.force_run};
+    return Render(ActionFamily::One, facts, deadline ? *deadline : Instant());
+}
+
+AutoUString<UTF8> ActionSummary(std::set<unsigned long long> const& ids, ActionRequestStore const& store,
+                                bool pending) {
+    SummaryFacts facts;
+    Instant earliest{INT64_MAX};
+    for (auto id : ids) {
+        ActionRequest const& action = store.GetAction(id);
+        facts.save |= action.request_save;
+        facts.restart |= action.restart;
+        facts.shutdown |= action.shutdown;
+        auto const deadline = action.Deadline();
+        if (!deadline || (facts.has_deadline && *deadline >= earliest)) continue;
+        facts.has_deadline = true;
+        facts.forced = action.force_run;
+        earliest = *deadline;
+    }
+    return Render(pending ? ActionFamily::Pending : ActionFamily::Selected, facts, earliest);
+}
