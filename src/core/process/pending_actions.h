@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstddef>
+#include <span>
+#include <vector>
+
+#include "messages/action_request.h"
+
+// The action requests that the client offers and the user has not yet answered, in arrival order. Main thread only.
+//
+// An ID may stand in it more than once; looking one up finds the first. All erasing goes through Erase, which keeps the
+// cursor of a take-all in progress in front of the same action, whatever is removed meanwhile and by whom.
+class PendingActions {
+  public:
+    using Iterator = std::vector<ActionRequest>::const_iterator;
+
+    Iterator begin() const { return requests_.begin(); }
+    Iterator end() const { return requests_.end(); }
+    std::size_t size() const { return requests_.size(); }
+    bool empty() const { return requests_.empty(); }
+    ActionRequest const& operator[](std::size_t position) const { return requests_[position]; }
+
+    // The position of the first request with this ID, or size() when there is none.
+    std::size_t Find(unsigned long long id) const;
+    // That request itself, or null. Valid until the list changes.
+    ActionRequest const* FindAction(unsigned long long id) const;
+    // All of them. Valid until the list changes.
+    std::span<ActionRequest const> Requests() const { return requests_; }
+
+    void Append(ActionRequest const& request) { requests_.push_back(request); }
+    void Erase(std::size_t position);
+    void Clear();
+
+    // The first action that the take-all in progress has not yet come to; at most size().
+    std::size_t TakeAllCursor() const { return take_all_cursor_; }
+    void SetTakeAllCursor(std::size_t position) { take_all_cursor_ = position; }
+
+  private:
+    std::vector<ActionRequest> requests_;
+    std::size_t take_all_cursor_ = 0;
+};

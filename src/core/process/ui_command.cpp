@@ -1,0 +1,21 @@
+#include "core/process/ui_command.h"
+
+#include <utility>
+
+// Never destroyed, so that it may be used at any moment of the exit.
+UICommandQueue& uiCommandQ = *new UICommandQueue;
+
+void UICommandQueue::WriteMessage(std::unique_ptr<UICommand> command) {
+    AccessLocker locker(lock_);
+    commands_.Append(std::move(command));
+}
+
+void UICommandQueue::ReadMessages(FiFoQueue<std::unique_ptr<UICommand>>& out) {
+    AccessLocker locker(lock_);
+    commands_.Swap(out);
+}
+
+void QueueCommand(UICommandType type, unsigned long long actionID, int minutes, long long deadlineSeconds) {
+    auto seconds = static_cast<std::uint32_t>(deadlineSeconds);
+    uiCommandQ.WriteMessage(std::make_unique<UICommand>(type, actionID, minutes, seconds));
+}
