@@ -1,0 +1,31 @@
+#pragma once
+
+#include "dialogs/toolkit/widget.h"
+#include "foundation/time/time_interval.h"
+
+// The main window: the pending actions, what they involve, and what the user can do about them. At most one exists at a
+// time. Every decision becomes one UI command; the dialog itself never talks to the client. Main thread only; every
+// function here is harmless without a display and without the dialog.
+//
+// The selected row is an index: it stays when the dialog is hidden and shown again and when rows are removed, and may
+// come to mean another action. That is meant; an index beyond the rows becomes none.
+
+// Builds and shows the dialog; while it stands, nothing changes. `remindInterval` is proposed for snoozing, `snoozable`
+// tells whether the user may snooze at all. The first argument is unused.
+void ShowActionRequestDialog(bool, TimeInterval const& remindInterval, bool snoozable);
+
+// Destroys the dialog.
+void HideActionRequestDialog();
+
+// Reads the pending list again and shows it; ignored while the dialog is disabled, so that the list does not change
+// under a decision. Throws NoSelectedAction (action_request_contents.h), and what the conversion of texts throws.
+void UpdateActionRequestDialog();
+
+// Lets the user decide, or not: all buttons and both lists together. Enabling brings the dialog up to date.
+void EnableActionRequestDialog();
+void DisableActionRequestDialog();
+
+// The dialog's shell, for windows that stand over it, or null.
+Widget ActionRequestDialogShell();
+bool IsActionRequestDialogShown();
+bool IsActionRequestDialogEnabled();

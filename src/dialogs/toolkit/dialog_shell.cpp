@@ -1,0 +1,55 @@
+#include "dialogs/toolkit/dialog_shell.h"
+
+#include <X11/Intrinsic.h>
+#include <X11/Shell.h>
+#include <X11/StringDefs.h>
+
+#include <utility>
+
+#include "core/process/exit_cleanup.h"
+#include "core/process/x_connection.h"
+#include "dialogs/toolkit/widgets.h"
+
+Widget CreateDialogShell(char const* name, char const* title) {
+    static XtTranslations const closing = XtParseTranslationTable("<Message>WM_PROTOCOLS: SystemMenuClose()\n");
+    Widget shell = XtVaAppCreateShell(name, "XQENClientUI", applicationShellWidgetClass, display, XtNtitle, title,
+                                      XtNiconName, title, XtNmappedWhenManaged, False, XtNallowShellResize, True,
+                                      XtNinput, True, XtNwindowRole, name, XtNclientLeader, qenHidden, nullptr);
+    XtOverrideTranslations(shell, closing);
+    return shell;
+}
+
+void SetDialogTitle(Widget shell, char const* title) {
+    SetResources(shell, {{XtNtitle, title}, {XtNiconName, title}});
+    SetUtf8Title(shell, title);
+}
+
+void RealizeDialogShell(Widget shell) {
+    XtRealizeWidget(shell);
+}
+
+void PresentDialogShell(Widget shell, WindowTraits const& traits) {
+    CenterDialogOnDisplay(shell);
+    Atom close = XInternAtom(display, "WM_DELETE_WINDOW", False);
+    XSetWMProtocols(display, XtWindow(shell), &close, 1);
+    SetWindowProperties(shell, traits);
+    XtMapWidget(shell);
+}
+
+void DestroyDialogShell(Widget& shell) {
+    if (Widget dying = std::exchange(shell, nullptr)) XtDestroyWidget(dying);
+}
+
+void CenterDialogOnDisplay(Widget shell) {
+    int screen = DefaultScreen(display);
+    SetResources(shell, {{XtNx, (DisplayWidth(display, screen) - WidthOf(shell)) / 2},
+                         {XtNy, (DisplayHeight(display, screen) - HeightOf(shell)) / 2}});
+}
+
+void SystemMenuClose(Widget widget, XEvent const& event) {
+    Display* connection = XtDisplay(widget);
+    Atom close = XInternAtom(connection, "WM_DELETE_WINDOW", True);
+    Atom protocols = XInternAtom(connection, "WM_PROTOCOLS", True);
+    if (event.type != ClientMessage || event.xclient.message_type != protocols) return;
+    if (static_cast<Atom>(event.xclient.data.l[0]) == close) ExitCleanup(0, "CLOSED");
+}

@@ -1,0 +1,62 @@
+#include "dialogs/toolkit/widgets.h"
+
+#include <X11/Intrinsic.h>
+#include <X11/StringDefs.h>
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+std::vector<Arg> ToolkitArguments(std::initializer_list<Arguments> lists) {
+    std::vector<Arg> all;
+    for (auto const& list : lists)
+        for (auto const& argument : list) all.push_back({const_cast<String>(argument.Name()), argument.Value()});
+    return all;
+}
+
+int DimensionOf(Widget widget, char const* name) {
+    Dimension value = 0;
+    XtVaGetValues(widget, name, &value, nullptr);
+    return value;
+}
+
+}  // namespace
+
+Widget Create(Widget parent, char const* name, WidgetClass kind, Arguments arguments, Arguments more) {
+    auto list = ToolkitArguments({arguments, more});
+    return XtCreateManagedWidget(name, kind, parent, list.data(), static_cast<Cardinal>(list.size()));
+}
+
+void SetResources(Widget widget, Arguments arguments) {
+    auto list = ToolkitArguments({arguments});
+    XtSetValues(widget, list.data(), static_cast<Cardinal>(list.size()));
+}
+
+int WidthOf(Widget widget) {
+    return DimensionOf(widget, XtNwidth);
+}
+int HeightOf(Widget widget) {
+    return DimensionOf(widget, XtNheight);
+}
+int BorderWidthOf(Widget widget) {
+    return DimensionOf(widget, XtNborderWidth);
+}
+
+int ClampedSize(int pixels) {
+    return std::clamp(pixels, 1, 32767);
+}
+
+void Rewiden(Widget widget, int width) {
+    XtUnmanageChild(widget);
+    SetResources(widget, {{XtNwidth, ClampedSize(width)}});
+    XtManageChild(widget);
+}
+
+void SetSensitive(Widget widget, bool sensitive) {
+    XtSetSensitive(widget, sensitive);
+}
+
+void SetMapped(Widget widget, bool mapped) {
+    XtSetMappedWhenManaged(widget, mapped);
+}

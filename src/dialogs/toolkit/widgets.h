@@ -1,0 +1,28 @@
+#pragma once
+
+#include "dialogs/toolkit/argument.h"
+#include "dialogs/toolkit/widget.h"
+
+// Making, changing and measuring widgets. Main thread only; sizes and positions are pixels.
+//
+// A widget belongs to its parent: destroying a shell destroys everything in it.
+
+// A managed child of `parent`, with the resources of both lists. `name` is copied.
+Widget Create(Widget parent, char const* name, WidgetClass kind, Arguments arguments = {}, Arguments more = {});
+
+void SetResources(Widget widget, Arguments arguments);
+
+int WidthOf(Widget widget);
+int HeightOf(Widget widget);
+int BorderWidthOf(Widget widget);
+
+// `pixels` within what a size of the X protocol holds: 1 to 32,767.
+int ClampedSize(int pixels);
+
+// Gives a managed widget a new width behind its parent's back and lets the parent lay it out again.
+void Rewiden(Widget widget, int width);
+
+void SetSensitive(Widget widget, bool sensitive);
+
+// Shows or hides a managed widget without giving up its place.
+void SetMapped(Widget widget, bool mapped);
