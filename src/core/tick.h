@@ -1,0 +1,7 @@
+#pragma once
+
+// What the process does every second once the display is open, in this order: it exits if the client is gone; handles
+// the client's messages and then the user's decisions; on the first tick creates the hidden shell; brings back the action
+// request dialog when no snooze runs; closes messages whose time is over; and, outside quiet mode, takes the forced
+// actions whose deadline has passed. Main thread only.
+void ServiceTimerTick();
