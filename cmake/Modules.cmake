@@ -24,8 +24,12 @@ function(add_test_program name)
   cmake_parse_arguments(PARSE_ARGV 1 program "" "" "SOURCES;LINKS;LABELS")
   add_executable(${name} ${program_SOURCES})
   target_link_libraries(${name} PRIVATE ${program_LINKS} GTest::gmock GTest::gtest_main)
-  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 TEST_PREFIX "${name}." PROPERTIES TIMEOUT 120 LABELS
-                                                                                    "${program_LABELS}")
+  gtest_discover_tests(
+    ${name}
+    NO_PRETTY_VALUES
+    DISCOVERY_TIMEOUT 60
+    TEST_PREFIX "${name}."
+    PROPERTIES TIMEOUT 120 LABELS "${program_LABELS}")
   foreach(label IN LISTS program_LABELS)
     if(NOT TARGET ${label}_tests)
       add_custom_target(${label}_tests)

@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <poll.h>
 #include <signal.h>
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 #include <stdexcept>
@@ -61,6 +62,12 @@ std::optional<std::string> ClientProcess::ReceiveFrame(Milliseconds limit) {
     std::optional<std::string> frame = TakeFrame();
     while (!frame && ReadMore(Remaining(deadline))) frame = TakeFrame();
     return frame;
+}
+
+size_t ClientProcess::WaitingBytes() const {
+    int count = 0;
+    ioctl(receiving_.Get(), FIONREAD, &count);
+    return static_cast<size_t>(count);
 }
 
 std::optional<std::string> ClientProcess::TakeFrame() {

@@ -26,6 +26,9 @@ class ClientProcess {
     // The next document, or null when none arrived within `limit` or the program closed its end.
     std::optional<std::string> ReceiveFrame(Milliseconds limit);
 
+    // How much the program has written that waits in the pipe.
+    size_t WaitingBytes() const;
+
     void CloseSending() { sending_.Close(); }
     void CloseReceiving() { receiving_.Close(); }
 

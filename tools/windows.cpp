@@ -47,6 +47,7 @@ Window Search(Display* display, Window parent, std::string const& name, int dept
 
 void IgnoreErrors(Display* display) {
     XSetErrorHandler([](Display*, XErrorEvent*) { return 0; });
+    XSetIOErrorHandler([](Display*) { return 0; });
     XSetIOErrorExitHandler(
         display, [](Display*, void*) {}, nullptr);
 }

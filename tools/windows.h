@@ -11,7 +11,7 @@ namespace tools {
 // Asks the server about windows of other programs. Each of them may vanish at any moment; then it has no name, is not
 // shown and lies nowhere, see IgnoreErrors.
 
-// From then on X errors, and the loss of this connection, do not end the process.
+// From then on X errors do not end the process, nor does the loss of this connection.
 void IgnoreErrors(Display* display);
 
 // The first window, at the top level or inside the frames that a window manager puts around such a one, that `name`

@@ -1,0 +1,120 @@
+#include "tests/support/program_test.h"
+
+namespace {
+
+size_t const largest_payload = 2097152;
+
+class Channel : public ProgramTest {
+  protected:
+    // A message that is answered without a user: an overdue action that must run.
+    std::string Overdue(int id) const {
+        return Document("request title=Overdue force deadline=-1h id=" + std::to_string(id));
+    }
+
+    // More answers than the pipe holds, none of them read.
+    void FillThePipe() {
+        Start();
+        Play("initialize");
+        for (int id = 1; id <= many_; ++id) Program().SendFrame(Overdue(id));
+        EXPECT_TRUE(tools::WaitUntil(std::chrono::seconds(10), [this] { return Program().WaitingBytes() > 60000; }));
+    }
+
+    int const many_ = 450;
+
+    // The same document with blanks up to that length.
+    static std::string Padded(std::string document, size_t length) {
+        document.insert(document.find("<ClientToUI>"), length - document.size(), ' ');
+        return document;
+    }
+};
+
+}  // namespace
+
+TEST_F(Channel, TheGreetingComesWithinASecondToTheByte) {
+    tools::ClientProcess program({PROGRAM_UNDER_TEST, {}});
+    EXPECT_EQ(program.ReceiveFrame(std::chrono::seconds(1)),
+              "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+              "<ClientToUI>\n"
+              "\t<ReadyForData></ReadyForData>\n"
+              "</ClientToUI>");
+}
+
+TEST_F(Channel, FramesMayArriveByteByByteAndCutAnywhere) {
+    Start();
+    for (char byte : tools::Frame(Document("initialize"))) Program().SendBytes({&byte, 1});
+    Program().SendFrame("");
+    std::string frame = tools::Frame(Overdue(1)) + tools::Frame(Overdue(2));
+    for (size_t cut : {2, 300}) Program().SendBytes(frame.substr(0, cut)), frame.erase(0, cut);
+    Program().SendBytes(frame);
+    Play("expect ActionTaken ID=1\nexpect ActionTaken ID=2");
+}
+
+TEST_F(Channel, TheLargestFrameIsAccepted) {
+    Start();
+    Play("initialize");
+    Program().SendFrame(Padded(Overdue(1), largest_payload));
+    Play("expect ActionTaken ID=1");
+}
+
+TEST_F(Channel, OneByteMoreEndsTheProgram) {
+    Start();
+    Play("initialize");
+    Program().SendFrame(Padded(Overdue(1), largest_payload + 1));
+    Play("expect exit 0");
+}
+
+TEST_F(Channel, TheEndInsideAPayloadEndsTheProgramAndNothingOfItIsRead) {
+    Start();
+    Play("initialize");
+    std::string frame = tools::Frame(Overdue(1));
+    Program().SendBytes(frame.substr(0, frame.size() - 1));
+    Program().CloseSending();
+    Play("expect exit 0");
+}
+
+TEST_F(Channel, ABadMessageTakesTheRestOfItsBatchAlong) {
+    Start();
+    Play("initialize\nrequest id=1 title=One\nwait window ActionRequestDialog");
+    std::string batch;
+    for (auto line : {"request id=2 title=Two", "request id=bad title=Bad", "request id=3 title=Three"}) {
+        batch += tools::Frame(Document(line));
+    }
+    Program().SendBytes(batch);
+    Play("select row 2");
+    Program().SendFrame(Overdue(4));
+    Play(R"(
+        expect ActionTaken ID=4
+        click form.takeAllActions
+        expect ActionTaken ID=1
+        expect ActionTaken ID=2
+    )");
+}
+
+TEST_F(Channel, AClientThatReadsLateMissesNothing) {
+    FillThePipe();
+    for (int id = 1; id <= many_; ++id) Play("expect ActionTaken ID=" + std::to_string(id));
+}
+
+TEST_F(Channel, AClientThatGoesWhileAnswersWaitIsAnOrdinaryEnd) {
+    FillThePipe();
+    Play("close\nexpect exit 0");
+}
+
+TEST_F(Channel, AnswersAreFramesToTheByteAndNothingElseIsWritten) {
+    Start({{"LC_ALL", "no_SUCH.locale"}});
+    Play(R"(
+        initialize locale
+        request id=18446744073709551615 title=Last
+        wait window ActionRequestDialog
+        click form.takeAllActions
+    )");
+    EXPECT_EQ(Receive(),
+              "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+              "<UIToClient>\n"
+              "\t<ActionTaken>\n"
+              "\t\t<IsCancel>false</IsCancel>\n"
+              "\t\t<IsOffer>false</IsOffer>\n"
+              "\t\t<ID>18446744073709551615</ID>\n"
+              "\t</ActionTaken>\n"
+              "</UIToClient>");
+}

@@ -1,0 +1,144 @@
+#include "tests/support/program_test.h"
+
+#include <fstream>
+#include <set>
+
+#include "tools/client_messages.h"
+
+namespace {
+
+using Names = std::set<std::string>;
+
+class Initialization : public ProgramTest {
+  protected:
+    static void Write(std::filesystem::path const& file, std::string const& text) {
+        std::filesystem::create_directories(file.parent_path());
+        std::ofstream(file) << text;
+    }
+    static std::string Read(std::filesystem::path const& file) {
+        std::ifstream stream(file);
+        return {std::istreambuf_iterator<char>(stream), {}};
+    }
+    Names NamesInBase() const {
+        Names names;
+        for (auto const& entry : std::filesystem::directory_iterator(BaseDirectory())) {
+            names.insert(entry.path().filename().string());
+        }
+        return names;
+    }
+};
+
+}  // namespace
+
+TEST_F(Initialization, EmptiesTheBaseDirectoryAndFillsIt) {
+    Write(Directory() / "outside" / "kept.txt", "kept");
+    Write(BaseDirectory() / "old" / "deep" / "old.txt", "old");
+    std::filesystem::create_directory_symlink(Directory() / "outside", BaseDirectory() / "link");
+    Start();
+    Play(R"(
+        support-file page.html "<p>first</p>"
+        support-file page.html "<p>second</p>"
+        support-file empty.txt ""
+        initialize
+        open
+        wait window ActionRequestDialog
+    )");
+    EXPECT_EQ(NamesInBase(), (Names{"page.html", "empty.txt"}));
+    EXPECT_EQ(Read(BaseDirectory() / "page.html"), "<p>second</p>");
+    EXPECT_EQ(Read(Directory() / "outside" / "kept.txt"), "kept");
+}
+
+TEST_F(Initialization, HappensOnceAndMakesTheDirectoryWithItsParents) {
+    Start();
+    Play("support-file a.txt a\ninitialize base=" + (BaseDirectory() / "new").string());
+    Play("initialize\nopen\nwait window ActionRequestDialog\nrequest id=1 title=Overdue force deadline=-1h");
+    Play("expect ActionTaken ID=1");
+    EXPECT_EQ(NamesInBase(), Names{"new"});
+    EXPECT_EQ(Read(BaseDirectory() / "new" / "a.txt"), "a");
+}
+
+TEST_F(Initialization, RequestsBeforeItAndBesideItAreShown) {
+    Start();
+    Play("request id=1 title=Before");
+    Program().SendFrame(Document("initialize\nrequest id=2 title=Dropped"));
+    Play(R"(
+        request id=3 title=Beside
+        wait window ActionRequestDialog
+        click form.takeAllActions
+        expect ActionTaken ID=1
+        expect ActionTaken ID=3
+    )");
+}
+
+struct FailingCase {
+    char const* name;
+    std::string elements;  // "~" stands for the test's directory
+};
+
+class FailingInitialization : public Initialization, public ::testing::WithParamInterface<FailingCase> {};
+
+// Whatever is wrong with it, it touches nothing, and the next one counts.
+TEST_P(FailingInitialization, IsFollowedByOneThatSucceeds) {
+    Write(Directory() / "file", "in the way");
+    Write(Directory() / "full" / "old.txt", "old");
+    Start();
+    std::string elements = GetParam().elements;
+    for (size_t at; (at = elements.find('~')) != elements.npos;) elements.replace(at, 1, Directory().string());
+    Program().SendFrame(tools::Document(tools::Element("InitializationInfo", elements)));
+    Play("support-file a.txt a");
+    std::string initialization = Document("initialize");
+    // What follows in the same batch is lost, and no answer tells the batches apart.
+    EXPECT_TRUE(tools::WaitUntil(std::chrono::seconds(5), [&] {
+        Program().SendFrame(initialization);
+        return std::filesystem::exists(BaseDirectory() / "a.txt");
+    }));
+    Play("request id=1 title=One force deadline=-1h\nexpect ActionTaken ID=1");
+    EXPECT_EQ(Read(Directory() / "full" / "old.txt"), "old");
+    EXPECT_EQ(Read(Directory() / "file"), "in the way");
+}
+
+std::string FullWith(std::string const& rest) {
+    return "<BaseDirectory>~/full</BaseDirectory>" + rest;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, FailingInitialization,
+    ::testing::Values(FailingCase{"NoBase", ""}, FailingCase{"EmptyBase", "<BaseDirectory></BaseDirectory>"},
+                      FailingCase{"FileInTheWay", "<BaseDirectory>~/file/below</BaseDirectory>"},
+                      FailingCase{"NameLeadsOut", FullWith(tools::SupportFile("../file", "over it"))},
+                      FailingCase{"NameIsParent", FullWith(tools::SupportFile("..", "over it"))},
+                      FailingCase{"NoDuration", FullWith("<InitialUISettings><RemindInterval>soon</RemindInterval>"
+                                                         "</InitialUISettings>")}),
+    [](auto const& of) { return of.param.name; });
+
+struct LocaleCase {
+    char const* name;
+    char const* locale;
+    char const* flags;
+    std::vector<std::string> files;  // each translates the window's title into its own name
+    char const* title;
+};
+
+class Translations : public Initialization, public ::testing::WithParamInterface<LocaleCase> {};
+
+TEST_P(Translations, AreChosenByTheLocale) {
+    Start({{"LC_ALL", GetParam().locale}});
+    for (auto const& file : GetParam().files) {
+        Play("support-file " + file + " \"Action Requests\\t" + file + (file == "FR_ca.XLAT" ? " été\"" : "\""));
+    }
+    Play(std::string("initialize ") + GetParam().flags + "\nopen");
+    Window window = Screen().WaitForWindow("ActionRequestDialog", std::chrono::seconds(5));
+    EXPECT_EQ(Screen().Title(window), GetParam().title);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, Translations,
+    ::testing::Values(
+        LocaleCase{"CLocale", "C", "locale", {"C.xlat", "_brand.xlat"}, "_brand.xlat"},
+        LocaleCase{"LocaleNotWanted", "de_DE.UTF-8", "locale=no", {"de.xlat", "_brandde.xlat"}, "Action Requests"},
+        LocaleCase{"BrandForTheLanguage", "de_DE.UTF-8", "locale", {"_brand.xlat", "_brandde.xlat"}, "_brandde.xlat"},
+        LocaleCase{"GeneralOverBrand", "de_DE.UTF-8", "locale", {"de.xlat", "_brandde_DE.xlat"}, "de.xlat"},
+        LocaleCase{"FullNameOverLanguage", "de_DE.UTF-8", "locale", {"de.xlat", "de_DE.xlat"}, "de_DE.xlat"},
+        LocaleCase{"NameIgnoresCase", "fr_CA.ISO-8859-1", "locale", {"fr.xlat", "FR_ca.XLAT"}, "FR_ca.XLAT été"},
+        LocaleCase{"UnknownToXlib", "de_XX.UTF-8", "locale", {"de.xlat", "_brand.xlat"}, "Action Requests"}),
+    [](auto const& of) { return of.param.name; });

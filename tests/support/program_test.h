@@ -1,0 +1,45 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "tests/support/temporary_directory.h"
+#include "tools/scenario_player.h"
+#include "tools/virtual_display.h"
+
+// A test of the whole program: started as its client starts it, on an X server and in a directory of its own, in the C
+// locale unless told otherwise. The cases are written in the lines that tools/README.md describes.
+//
+// Every case ends with the client closing its pipes: then the program must have said nothing that the case did not ask
+// for, and must end as `ending_` says.
+class ProgramTest : public ::testing::Test {
+  protected:
+    using Environment = std::map<std::string, std::optional<std::string>>;
+
+    // Starts the program with changes to its environment, and takes its greeting.
+    void Start(Environment const& changes = {});
+    void Play(std::string_view lines) { player_->Play(lines); }
+    void TearDown() override;
+
+    tools::ClientProcess& Program() { return player_->Program(); }
+    tools::DisplayDriver& Screen() { return player_->Screen(); }
+    tools::VirtualDisplay& Display() { return display_; }
+    // The document that message lines stand for.
+    std::string Document(std::string_view lines) const { return player_->DocumentFor(lines); }
+    // The next answer to the byte; throws when there is none.
+    std::string Receive() { return player_->Receive(std::chrono::seconds(5)); }
+    std::filesystem::path const& Directory() const { return directory_.Path(); }
+    // The one the program is told to use unless a case names another.
+    std::filesystem::path BaseDirectory() const { return Directory() / "base"; }
+
+    std::string ending_ = "exit 0";
+
+  private:
+    TemporaryDirectory directory_;
+    tools::VirtualDisplay display_;
+    std::optional<tools::ScenarioPlayer> player_;
+};
