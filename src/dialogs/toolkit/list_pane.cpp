@@ -1,6 +1,6 @@
 #include "dialogs/toolkit/list_pane.h"
 
-#include <X11/Intrinsic.h>
+#include <X11/IntrinsicP.h>
 #include <X11/StringDefs.h>
 #include <X11/Xaw/List.h>
 #include <X11/Xaw/Viewport.h>
@@ -19,8 +19,15 @@ void ListPane::Create(Widget parent, char const* name, int width, int height, Ar
     ShowRows({});
 }
 
+// Managed again, a realised list's window is put at the top of the viewport behind the toolkit's back: it is moved there
+// before, so that the toolkit agrees, and to where it was afterwards.
 void ListPane::ShowRows(std::vector<AutoNullTerminated<char>> rows) {
+    if (!XtIsRealized(list_)) return rows_.Show(list_, std::move(rows));
+    Position top = 0;
+    XtVaGetValues(list_, XtNy, &top, nullptr);
+    XtMoveWidget(list_, 0, 0);
     rows_.Show(list_, std::move(rows));
+    XawViewportSetCoordinates(viewport_, 0, static_cast<Position>(-top));
 }
 
 void ListPane::Highlight(int row) {
