@@ -9,6 +9,7 @@ packages=(
     libx11-dev libxt-dev libxaw7-dev                          # the program
     libgtest-dev libgmock-dev libxtst-dev libpng-dev          # its tests
     xvfb openbox locales                                      # the displays and languages that they run with
+    python3                                                   # the translators' tools
     libbenchmark-dev libexpat1-dev libpugixml-dev             # its benchmarks
 )
 [ "${1-}" != --check ] || packages+=(clang-format)
