@@ -3,8 +3,12 @@
 void ProgramTest::Start(Environment const& changes) {
     tools::PlayerOptions options;
     options.launch.program = PROGRAM_UNDER_TEST;
-    options.launch.environment = {
-        {"DISPLAY", display_.Name()}, {"LC_ALL", "C"}, {"LANGUAGE", std::nullopt}, {"LOCPATH", TEST_LOCALES}};
+    options.launch.environment = {{"DISPLAY", display_.Name()},
+                                  {"LC_ALL", "C"},
+                                  {"LANGUAGE", std::nullopt},
+                                  {"LOCPATH", TEST_LOCALES},
+                                  {"ASAN_OPTIONS", "malloc_context_size=2"},
+                                  {"LSAN_OPTIONS", "print_suppressions=0:suppressions=" LEAKS_OF_THE_TOOLKIT}};
     for (auto const& [name, value] : changes) options.launch.environment[name] = value;
     options.launch.fixed_addresses = true;
     options.output = Directory();
