@@ -51,9 +51,7 @@ void OnFirstTick() {
     OpenWaitingMessageDialogs();
 }
 
-}  // namespace
-
-void ServiceTimerTick() {
+void HandleTick() {
     if (ClientIsGone()) ExitCleanup(0, "CLOSED");
     ProcessMessagesFromClient();
     ProcessMessagesFromUI();
@@ -64,4 +62,11 @@ void ServiceTimerTick() {
     RemoveTimedoutMessageDialogs();
     // Meant: while nothing is to be decided, nothing is taken by itself either.
     if (!inQuietMode) SweepDeadlines();
+}
+
+}  // namespace
+
+void ServiceTimerTick() {
+    HandleTick();
+    RefreshActionRequestDialog();
 }

@@ -42,6 +42,8 @@ struct Dialog {
     Widget snooze = nullptr;
 
     bool enabled = false;
+    bool update_wanted = false;
+    std::size_t checked_actions = 0;      // How many of the pending actions have titles known to be showable.
     std::vector<unsigned long long> ids;  // Of the rows, in their order.
     int selected_row = -1;
     std::vector<SnoozeChoice> choices;
@@ -90,6 +92,13 @@ void RebuildRows() {
     for (auto const& action : actions) ids.push_back(action.id);
     dialog.ids = std::move(ids);
     dialog.action_list.ShowRows(std::move(rows));
+}
+
+// The message that brings an action with a title that cannot be shown is the one to fail.
+void CheckNewTitles() {
+    auto const first = std::min(dialog.checked_actions, actions.size());
+    dialog.checked_actions = actions.size();
+    for (auto const& action : actions.Requests().subspan(first)) MakeLocalString<UTF8>(action.title);
 }
 
 void HighlightSelection() {
@@ -173,6 +182,7 @@ void RefreshContents() {
 }
 
 void Refresh() {
+    dialog.update_wanted = false;
     RebuildRows();
     HighlightSelection();
     RefreshContents();
@@ -272,11 +282,18 @@ void ShowActionRequestDialog(bool, TimeInterval const& remindInterval, bool snoo
 }
 
 void HideActionRequestDialog() {
+    dialog.update_wanted = false;
     DestroyDialogShell(dialog.shell);
 }
 
 void UpdateActionRequestDialog() {
-    if (dialog.shell && dialog.enabled) Refresh();
+    if (!dialog.shell || !dialog.enabled) return;
+    dialog.update_wanted = true;
+    CheckNewTitles();
+}
+
+void RefreshActionRequestDialog() {
+    if (dialog.update_wanted) Refresh();
 }
 
 void EnableActionRequestDialog() {
@@ -288,6 +305,7 @@ void EnableActionRequestDialog() {
 
 void DisableActionRequestDialog() {
     if (!dialog.shell) return;
+    RefreshActionRequestDialog();
     SetAllSensitive(false);
     dialog.enabled = false;
 }

@@ -17,9 +17,14 @@ void ShowActionRequestDialog(bool, TimeInterval const& remindInterval, bool snoo
 // Destroys the dialog.
 void HideActionRequestDialog();
 
-// Reads the pending list again and shows it; ignored while the dialog is disabled, so that the list does not change
-// under a decision. Throws NoSelectedAction (action_request_contents.h), and what the conversion of texts throws.
+// Asks for the pending list to be read again and shown; ignored while the dialog is disabled, so that the list does not
+// change under a decision. Throws what the conversion of a new action's title throws.
 void UpdateActionRequestDialog();
+
+// Carries out what was asked for since the last call: once a tick, however many requests came in it, so that a burst of
+// them costs no more than its size. Throws NoSelectedAction (action_request_contents.h), and what the conversion of texts
+// throws.
+void RefreshActionRequestDialog();
 
 // Lets the user decide, or not: all buttons and both lists together. Enabling brings the dialog up to date.
 void EnableActionRequestDialog();
