@@ -28,6 +28,8 @@ unsigned long long asked_id = 0;
 // Pixels; never reset, so that no question is narrower than the widest explanation seen.
 int minimum_text_width = 500;
 
+constexpr int kMargin = 4;  // Pixels around and between the widgets of a form.
+
 struct Texts {
     AutoNullTerminated<char> window_title = ControlLiteral("Confirmation Required");
     AutoNullTerminated<char> ok = ControlLiteral("OK");
@@ -61,6 +63,12 @@ Widget CreateLabel(Widget form, char const* name, AutoNullTerminated<char> const
                    {XtNinternational, true}});
 }
 
+// A wider window would stand with its buttons outside the display.
+void ClipToDisplay(Widget label, AutoNullTerminated<char> const& text) {
+    int const limit = DisplayWidthInPixels() - 4 * kMargin;
+    if (TextWidth(label, text.c_str()) > limit) Rewiden(label, limit);
+}
+
 Widget CreateButton(Widget form, char const* name, AutoNullTerminated<char> const& label, Widget above) {
     return Create(form, name, commandWidgetClass,
                   {{XtNfromVert, above}, {XtNlabel, label.c_str()}, {XtNinternational, true}});
@@ -85,6 +93,7 @@ void Build(unsigned long long id) {
     shell = CreateDialogShell("ConfirmationDialog", texts.window_title.c_str());
     Widget form = Create(shell, "form", formWidgetClass);
     Widget title = CreateLabel(form, "actiontitle", texts.action_title, nullptr);
+    ClipToDisplay(title, texts.action_title);
     Widget explanation = CreateLabel(form, "staticlabel", texts.explanation, title);
     minimum_text_width = std::max(minimum_text_width, WidthOf(explanation));
     Widget text = CreateReadOnlyText(form, "actionconfirmation", texts.confirmation.c_str(),

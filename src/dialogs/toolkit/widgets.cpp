@@ -4,7 +4,10 @@
 #include <X11/StringDefs.h>
 
 #include <algorithm>
+#include <cstring>
 #include <vector>
+
+#include "core/process/x_connection.h"
 
 namespace {
 
@@ -45,6 +48,18 @@ int BorderWidthOf(Widget widget) {
 
 int ClampedSize(int pixels) {
     return std::clamp(pixels, 1, 32767);
+}
+
+int TextWidth(Widget label, char const* text) {
+    XFontSet fonts = nullptr;
+    XtVaGetValues(label, XtNfontSet, &fonts, nullptr);
+    // Xlib counts in int: beyond this many bytes only "very wide" matters.
+    auto const length = std::min<std::size_t>(std::strlen(text), 1 << 16);
+    return fonts ? XmbTextEscapement(fonts, text, static_cast<int>(length)) : 0;
+}
+
+int DisplayWidthInPixels() {
+    return DisplayWidth(display, DefaultScreen(display));
 }
 
 void Rewiden(Widget widget, int width) {
