@@ -5,31 +5,25 @@
 #include <stdexcept>
 #include <string>
 
-#include "channel/millisecond_sleep.h"
-#include "channel/thread_exit.h"
 #include "channel/thread_test_support.h"
 
 namespace {
 
-// What a thread's function leaves behind.
-struct Trace {
-    std::atomic<int> runs = 0;
-    std::atomic<std::size_t> stack_size = 0;
-};
+std::atomic<int> runs;
+std::atomic<std::size_t> stack_size;
 
-void Leave(void* argument) {
-    auto& trace = *static_cast<Trace*>(argument);
+void Leave(void*) {
     pthread_attr_t attributes;
     std::size_t size = 0;
     pthread_getattr_np(pthread_self(), &attributes);
     pthread_attr_getstacksize(&attributes, &size);
     pthread_attr_destroy(&attributes);
-    trace.stack_size = size;
-    ++trace.runs;
+    stack_size = size;
+    ++runs;
 }
 
-void LeaveAndThrow(void* argument) {
-    Leave(argument);
+void LeaveAndThrow(void*) {
+    Leave(nullptr);
     throw std::runtime_error("from a thread");
 }
 
@@ -41,44 +35,43 @@ void SetDefaultStackSize(std::size_t size) {
     pthread_attr_destroy(&attributes);
 }
 
-class PortableThreadTest : public testing::Test {
-  protected:
-    PortableThreadTest() { ThreadsAtRest(); }
-    // Whatever a case started frees itself.
-    ~PortableThreadTest() override { EXPECT_TRUE(ThreadsAreAtRest()); }
-
-    Trace trace_;
+struct PortableThreadTest : testing::Test {
+    PortableThreadTest() { Reset(); }
+    void Reset() {
+        ResetEndedThreads();
+        runs = 0;
+    }
+    bool Ended(int count) {
+        return Eventually([=] { return ended_threads == count; });
+    }
 };
 
 TEST_F(PortableThreadTest, AnOwnedThreadStaysUntilAbandonedHoweverItsFunctionEnds) {
     for (auto function : {Leave, LeaveAndThrow}) {
-        trace_.runs = 0;
-        PortableThread* thread = PortableThread::CreatePortableThreadSuspended(function, &trace_);
-        EXPECT_EQ(Threads().size(), ThreadsAtRest());
-        EXPECT_TRUE(thread->Start());
-        EXPECT_TRUE(thread->Start()) << "a second start finds it running";
+        PortableThread* thread = PortableThread::CreatePortableThreadSuspended(function, nullptr);
+        Reset();
+        EXPECT_TRUE(thread->Start() && thread->Start()) << "the second start finds it running";
         EXPECT_TRUE(Eventually([&] { return thread->Completed(); }));
         EXPECT_EQ(pthread_kill(thread->Handle(), 0), 0);
-        EXPECT_EQ(Threads().size(), ThreadsAtRest() + 1);
+        EXPECT_EQ(ended_threads, 0);
         thread->Abandon();
-        EXPECT_TRUE(ThreadsAreAtRest());
-        EXPECT_EQ(trace_.runs, 1);
+        EXPECT_TRUE(Ended(1));
+        EXPECT_EQ(runs, 1);
     }
 }
 
 TEST_F(PortableThreadTest, AFireAndForgetThreadFreesItself) {
-    EXPECT_TRUE(PortableThread::RunPortableThread(Leave, &trace_));
-    EXPECT_TRUE(PortableThread::RunPortableThread(LeaveAndThrow, &trace_));
-    EXPECT_TRUE(ThreadsAreAtRest());
-    EXPECT_EQ(trace_.runs, 2);
+    EXPECT_TRUE(PortableThread::RunPortableThread(Leave, nullptr));
+    EXPECT_TRUE(PortableThread::RunPortableThread(LeaveAndThrow, nullptr));
+    EXPECT_TRUE(Ended(2));
+    EXPECT_EQ(runs, 2);
 }
 
-TEST_F(PortableThreadTest, NoFunctionGivesNoThread) {
-    EXPECT_EQ(PortableThread::CreatePortableThreadSuspended(nullptr, &trace_), nullptr);
-    EXPECT_EQ(PortableThread::CreatePortableThread(nullptr, &trace_), nullptr);
-    EXPECT_FALSE(PortableThread::RunPortableThread(nullptr, &trace_));
-    EXPECT_EQ(PortableThread::WaitForAbandon(new PortableThread::StartBlock{Leave, &trace_, nullptr}), nullptr);
-    EXPECT_EQ(trace_.runs, 0);
+TEST_F(PortableThreadTest, NoFunctionOrNoObjectGivesNoThread) {
+    EXPECT_EQ(PortableThread::CreatePortableThread(nullptr, nullptr), nullptr);
+    EXPECT_FALSE(PortableThread::RunPortableThread(nullptr, nullptr));
+    EXPECT_EQ(PortableThread::WaitForAbandon(new PortableThread::StartBlock{Leave, nullptr, nullptr}), nullptr);
+    EXPECT_EQ(runs, 0);
 }
 
 TEST_F(PortableThreadTest, ASmallDefaultStackIsRaisedAndALargeOneKept) {
@@ -87,48 +80,27 @@ TEST_F(PortableThreadTest, ASmallDefaultStackIsRaisedAndALargeOneKept) {
 #endif
     for (std::size_t size : {0x10000u, 0x80000u, 0x300000u}) {
         SetDefaultStackSize(size);
-        trace_.stack_size = 0;
-        PortableThread::CreatePortableThread(Leave, &trace_)->Abandon();
-        EXPECT_TRUE(ThreadsAreAtRest());
-        // A sanitizer may add room of its own.
-        EXPECT_GE(trace_.stack_size, std::max<std::size_t>(size, PortableThread::minimum_stack_size));
+        Reset();
+        PortableThread::CreatePortableThread(Leave, nullptr)->Abandon();
+        EXPECT_TRUE(Ended(1));
+        EXPECT_GE(stack_size, std::max<std::size_t>(size, 0x80000));
     }
 }
 
 TEST_F(PortableThreadTest, AThreadThatCannotStartSaysSoOnStandardError) {
     SetDefaultStackSize(std::size_t{1} << 47);  // more than an address space
     testing::internal::CaptureStderr();
-    EXPECT_EQ(PortableThread::CreatePortableThread(Leave, &trace_), nullptr);
-    EXPECT_FALSE(PortableThread::RunPortableThread(Leave, &trace_));
-    std::string const line = "Unable to pthread_create (" + std::to_string(EAGAIN) + ")\n";
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), line + line);
+    EXPECT_EQ(PortableThread::CreatePortableThread(Leave, nullptr), nullptr);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "Unable to pthread_create (" + std::to_string(EAGAIN) + ")\n");
     SetDefaultStackSize(0x800000);
 }
 
-TEST_F(PortableThreadTest, ExitRoutinesRunInOrderAtTheEndOfEveryThread) {
+TEST_F(PortableThreadTest, ExitRoutinesRunInTheOrderOfTheirRegistration) {
     static std::atomic<int> order;
     AtThreadExit([] { order = order * 10 + 1; });
     AtThreadExit([] { order = order * 10 + 2; });
-    PortableThread* owned = PortableThread::CreatePortableThread(Leave, &trace_);
-    EXPECT_TRUE(Eventually([&] { return owned->Completed(); }));
-    EXPECT_EQ(order, 0) << "not before the thread ends";
-    owned->Abandon();
-    EXPECT_TRUE(ThreadsAreAtRest());
-    PortableThread::RunPortableThread(Leave, &trace_);
-    EXPECT_TRUE(ThreadsAreAtRest());
-    EXPECT_EQ(order, 1212);
-}
-
-TEST_F(PortableThreadTest, SignalsDoNotCutASleepShort) {
-    auto const start = std::chrono::steady_clock::now();
-    std::atomic<bool> awake = false;
-    std::thread sleeper([&] {
-        MilliSecondSleep(1100);
-        awake = true;
-    });
-    InterruptOtherThreads(50);
-    sleeper.join();
-    EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(1100));
+    PortableThread::RunPortableThread(Leave, nullptr);
+    EXPECT_TRUE(Eventually([] { return order == 12; }));
 }
 
 }  // namespace

@@ -3,15 +3,13 @@
 #include <signal.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <thread>
-#include <vector>
 
-// What the tests of threads share: waiting for a condition, counting threads, disturbing them with signals.
+#include "channel/thread_exit.h"
 
 // Waits until the condition holds, and answers whether it came to hold within half a minute.
 template <class Condition>
@@ -24,28 +22,11 @@ bool Eventually(Condition condition) {
     return true;
 }
 
-// The threads of this process, as the kernel knows them.
-inline std::vector<pid_t> Threads() {
-    std::vector<pid_t> threads;
-    for (auto const& task : std::filesystem::directory_iterator("/proc/self/task"))
-        threads.push_back(std::atoi(task.path().filename().c_str()));
-    return threads;
-}
-
-// How many threads there are when no case has started any: a sanitizer starts one of its own with the first.
-inline std::size_t ThreadsAtRest() {
-    static std::size_t const count = [] {
-        pid_t first;
-        std::thread([&first] { first = gettid(); }).join();
-        Eventually([first] { return !std::ranges::count(Threads(), first); });
-        return Threads().size();
-    }();
-    return count;
-}
-
-// Waits until all threads that a case started are gone.
-inline bool ThreadsAreAtRest() {
-    return Eventually([] { return Threads().size() == ThreadsAtRest(); });
+// How many threads of the program's own have freed themselves, since the last reset.
+inline std::atomic<int> ended_threads;
+inline void ResetEndedThreads() {
+    [[maybe_unused]] static bool const counted = (AtThreadExit([] { ++ended_threads; }), true);
+    ended_threads = 0;
 }
 
 // Interrupts the system calls of every thread but the calling one, `count` times over.
@@ -55,8 +36,9 @@ inline void InterruptOtherThreads(int count) {
     action.sa_handler = [](int) { ++handled; };  // and no SA_RESTART
     sigaction(SIGUSR1, &action, nullptr);
     for (handled = 0; handled < count;) {
-        for (pid_t thread : Threads())
-            if (thread != gettid()) tgkill(getpid(), thread, SIGUSR1);
+        for (auto const& task : std::filesystem::directory_iterator("/proc/self/task"))
+            if (int thread = std::atoi(task.path().filename().c_str()); thread != gettid())
+                tgkill(getpid(), thread, SIGUSR1);
         std::this_thread::sleep_for(std::chrono::microseconds(200));
     }
 }

@@ -6,12 +6,10 @@
 #include <sys/ioctl.h>
 #include <sys/stat.h>
 
-#include <csignal>
-#include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
-#include "channel/thread_exit.h"
 #include "channel/thread_test_support.h"
 
 namespace {
@@ -19,7 +17,6 @@ namespace {
 using testing::ElementsAre;
 
 std::string const big(100'000, 'b');
-std::string const too_long_by_one{1, 0, 0x20, 0};
 
 std::string Header(std::size_t size) {
     return {static_cast<char>(size), static_cast<char>(size >> 8), static_cast<char>(size >> 16),
@@ -41,97 +38,80 @@ bool IsOpen(int descriptor) {
 }
 
 // A pipe and, in the same process, the client at the other ends of its descriptors.
-class Connection {
-  public:
+struct Connection {
     Connection() {
-        std::signal(SIGPIPE, SIG_IGN);
-        ThreadsAtRest();
-        int ends[2];
-        EXPECT_EQ(pipe(ends), 0);
-        input_ = ends[0], client_out_ = ends[1];
-        EXPECT_EQ(pipe(ends), 0);
-        client_in_ = ends[0], output_ = ends[1];
-        pipe_ = new UnixPipe(inbound_, outbound_);
-        reference_.emplace(pipe_);
+        signal(SIGPIPE, SIG_IGN);
+        ResetEndedThreads();
+        EXPECT_EQ(pipe(to_pipe) | pipe(from_pipe), 0);
+        reference.emplace(unix_pipe);
     }
-    // The client leaves: the threads end, the pipe goes, and its descriptors are given back.
+    // The client leaves, if it has not yet: the threads end, the pipe goes and gives its descriptors back.
     ~Connection() {
-        Release();
-        EXPECT_FALSE(IsOpen(input_) || IsOpen(output_));
-        if (client_in_ >= 0) close(client_in_);
-        EXPECT_TRUE(ThreadsAreAtRest());
+        Leave(to_pipe[1]);
+        EXPECT_TRUE(Eventually([&] { return ended_threads == (started ? 2 : 0); }));
+        reference.reset();
+        EXPECT_FALSE(IsOpen(to_pipe[0]) || IsOpen(from_pipe[1]));
+        Leave(from_pipe[0]);
     }
-    void Release() {
-        CloseClientOut();
-        EXPECT_TRUE(Eventually([&] { return pipe_->GetRefCount() == 1; }));
-        reference_.reset();
+    void Leave(int& end) {
+        if (end >= 0) close(end);
+        end = -1;
     }
 
-    UnixPipe& Pipe() { return *pipe_; }
-    void Start() { EXPECT_TRUE(pipe_->Start(input_, output_)); }
+    void Start() { EXPECT_TRUE(started = unix_pipe->Start(to_pipe[0], from_pipe[1])); }
     bool IsKilled() {
-        return Eventually([&] { return pipe_->Killed(); });
+        return Eventually([&] { return unix_pipe->Killed(); });
     }
 
     // The client writes bytes, and waits until the reader has taken them all.
     void Deliver(std::string const& bytes) {
-        EXPECT_EQ(write(client_out_, bytes.data(), bytes.size()), static_cast<ssize_t>(bytes.size()));
-        EXPECT_TRUE(Eventually([&] { return BytesWaiting(input_) == 0; }));
+        EXPECT_EQ(write(to_pipe[1], bytes.data(), bytes.size()), static_cast<ssize_t>(bytes.size()));
+        EXPECT_TRUE(Eventually([&] { return BytesWaiting(to_pipe[0]) == 0; }));
     }
-    void CloseClientOut() {
-        if (client_out_ >= 0) close(client_out_);
-        client_out_ = -1;
-    }
-    void CloseClientIn() { close(std::exchange(client_in_, -1)); }
-
     // The texts that arrived, once there are `count` or the pipe is killed.
     std::vector<std::string> Received(std::size_t count) {
         std::vector<std::string> texts;
-        auto take = [&] {
-            bool const last = pipe_->Killed();
+        EXPECT_TRUE(Eventually([&] {
+            bool const last = unix_pipe->Killed();
             FiFoQueue<UIMessage> batch;
-            inbound_.ReadMessages(batch);
-            while (!batch.IsEmpty()) texts.emplace_back(batch.TakeFront().Text().AsStringView());
+            for (inbound.ReadMessages(batch); !batch.IsEmpty();)
+                texts.emplace_back(batch.TakeFront().Text().AsStringView());
             return last || texts.size() >= count;
-        };
-        EXPECT_TRUE(Eventually(take));
+        }));
         return texts;
     }
 
-    void Queue(std::string const& text) { outbound_.WriteMessage(UIMessage(UStringRef<UTF8>(std::string_view(text)))); }
-    bool QueueIsTaken() {
-        return Eventually([&] { return outbound_.IsEmpty(); });
-    }
+    void Queue(std::string const& text) { outbound.WriteMessage(UIMessage(UStringRef<UTF8>(std::string_view(text)))); }
     // What the client reads: as many bytes, or up to the end.
     std::string Sent(std::size_t limit = std::string::npos) {
         std::string bytes;
         char buffer[4096];
-        ssize_t count = 1;
-        while (bytes.size() < limit && count > 0) {
-            count = read(client_in_, buffer, std::min(sizeof buffer, limit - bytes.size()));
+        for (ssize_t count = 1; bytes.size() < limit && count > 0;) {
+            count = read(from_pipe[0], buffer, std::min(sizeof buffer, limit - bytes.size()));
             bytes.append(buffer, static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
         }
         return bytes;
     }
     // Leaves room for that many bytes in the outbound pipe, and gives back what fills it.
     std::string FillOutput(std::size_t room) {
-        auto const capacity = static_cast<std::size_t>(fcntl(output_, F_SETPIPE_SZ, 4096));
-        std::string const filling(capacity - room, '.');
-        EXPECT_EQ(write(output_, filling.data(), filling.size()), static_cast<ssize_t>(filling.size()));
+        std::string const filling(static_cast<std::size_t>(fcntl(from_pipe[1], F_SETPIPE_SZ, 4096)) - room, '.');
+        EXPECT_EQ(write(from_pipe[1], filling.data(), filling.size()), static_cast<ssize_t>(filling.size()));
         return filling;
     }
 
-    int input_, output_, client_in_, client_out_;
+    int to_pipe[2], from_pipe[2];
+    UIMessageQueue inbound, outbound;
+    UnixPipe* unix_pipe = new UnixPipe(inbound, outbound);
+    std::optional<UnixPipeRef> reference;
+    bool started = false;
+};
 
-  private:
-    UIMessageQueue inbound_, outbound_;
-    UnixPipe* pipe_;
-    std::optional<UnixPipeRef> reference_;
+struct RunningConnection : Connection {
+    RunningConnection() { Start(); }
 };
 
 TEST(UnixPipe, AFrameSplitAnywhereArrivesOnce) {
-    Connection client;
-    client.Start();
+    RunningConnection client;
     std::string const bytes = Frame("") + Frame("a") + Frame("z\xC3\xBCrich\n");
     for (std::size_t cut = 0; cut <= bytes.size(); ++cut) {
         client.Deliver(bytes.substr(0, cut));
@@ -143,55 +123,51 @@ TEST(UnixPipe, AFrameSplitAnywhereArrivesOnce) {
 }
 
 TEST(UnixPipe, TwoMebibytesAreAcceptedAndOneByteMoreKills) {
-    Connection client;
-    client.Start();
-    std::string const longest(UnixPipe::longest_payload, 'x');
+    RunningConnection client;
+    std::string const longest(0x200000, 'x');
     client.Deliver(Frame(longest));
     EXPECT_THAT(client.Received(1), ElementsAre(longest));
-    EXPECT_FALSE(client.Pipe().Killed());
-    client.Deliver(too_long_by_one);
+    EXPECT_FALSE(client.unix_pipe->Killed());
+    client.Deliver(Header(0x200001));
     EXPECT_TRUE(client.IsKilled());
-    EXPECT_TRUE(client.Received(1).empty());
 }
 
 TEST(UnixPipe, AClientThatLeavesInsideAFrameKillsAndNothingPartialArrives) {
     std::string const bytes = Frame("whole") + Frame("cut");
     for (std::size_t size = Frame("whole").size(); size < bytes.size(); ++size) {
-        Connection client;
-        client.Start();
+        RunningConnection client;
         client.Deliver(bytes.substr(0, size));
-        client.CloseClientOut();
+        client.Leave(client.to_pipe[1]);
         EXPECT_THAT(client.Received(2), ElementsAre("whole"));
-        EXPECT_TRUE(client.IsKilled());
         EXPECT_EQ(client.Sent(), "") << "the client sees the end as well";
     }
 }
 
 TEST(UnixPipe, MessagesGoOutInOrderUntilAnEmptyOneCloses) {
-    Connection client;
-    client.Start();
-    std::string expected;
-    for (std::string const text : {"first", "<\xE2\x82\xAC/>", big.c_str()}) {
-        client.Queue(text);
-        expected += Frame(text);
-    }
-    EXPECT_EQ(client.Sent(expected.size()), expected);
-    client.Queue("last");
-    client.Queue("");
-    client.Queue("too late");
-    EXPECT_EQ(client.Sent(), Frame("last"));
+    RunningConnection client;
+    for (std::string const text : {"first", big.c_str(), "last", "", "too late"}) client.Queue(text);
+    EXPECT_EQ(client.Sent(), Frame("first") + Frame(big) + Frame("last"));
     EXPECT_TRUE(client.IsKilled());
-    EXPECT_THROW(client.Pipe().WriteMessageToPipe(UIMessage("none")), UnixPipeWriteMessageError);
-    EXPECT_NO_THROW(client.Pipe().WriteMessageToPipe(UIMessage("")));
+    EXPECT_THROW(client.unix_pipe->WriteMessageToPipe(UIMessage("none")), UnixPipeWriteMessageError);
+    EXPECT_NO_THROW(client.unix_pipe->WriteMessageToPipe(UIMessage("")));
+}
+
+TEST(UnixPipe, AFrameIsTwoWriteCalls) {
+    Connection client;
+    fcntl(client.from_pipe[1], F_SETFL, O_DIRECT);  // a pipe that gives back write by write
+    client.Start();
+    client.Queue(big.substr(0, 4096));
+    char buffer[8192];
+    EXPECT_EQ(read(client.from_pipe[0], buffer, sizeof buffer), 4);
+    EXPECT_EQ(read(client.from_pipe[0], buffer, sizeof buffer), 4096);
 }
 
 TEST(UnixPipe, AWriteThatIsNotTakenWholeIsFatalAndNotContinued) {
     bool some_were_taken_in_part = false;
-    for (std::size_t room : {0u, 1u, 4u, 10u, 2000u, 4096u}) {
+    for (std::size_t room : {0u, 1u, 4u, 2000u, 4096u}) {
         Connection client;
-        fcntl(client.output_, F_SETFL, O_NONBLOCK);
-        std::string expected = client.FillOutput(room);
-        if (room >= 4) expected += Header(big.size());
+        fcntl(client.from_pipe[1], F_SETFL, O_NONBLOCK);
+        std::string const expected = client.FillOutput(room) + (room < 4 ? "" : Header(big.size()));
         client.Start();
         client.Queue(big);
         EXPECT_TRUE(client.IsKilled());
@@ -203,50 +179,38 @@ TEST(UnixPipe, AWriteThatIsNotTakenWholeIsFatalAndNotContinued) {
     EXPECT_TRUE(some_were_taken_in_part);
 }
 
-TEST(UnixPipe, AClientThatOnlyStopsListeningKillsWithoutASignal) {
-    Connection client;
-    client.Start();
-    client.CloseClientIn();
-    client.Queue("nobody");
-    EXPECT_TRUE(client.IsKilled());
-}
-
 TEST(UnixPipe, InterruptedCallsAreResumed) {
-    Connection client;
-    client.Start();
+    RunningConnection client;
     std::string const filling = client.FillOutput(0);
     client.Queue("out");
     client.Deliver(Frame("in").substr(0, 5));
-    EXPECT_TRUE(client.QueueIsTaken());
+    EXPECT_TRUE(Eventually([&] { return client.outbound.IsEmpty(); }));
     InterruptOtherThreads(500);
     client.Deliver("n");
     EXPECT_THAT(client.Received(1), ElementsAre("in"));
     EXPECT_EQ(client.Sent(filling.size() + 7), filling + Frame("out"));
-    EXPECT_FALSE(client.Pipe().Killed());
+    EXPECT_FALSE(client.unix_pipe->Killed());
 }
 
 TEST(UnixPipe, KillDoesNotWaitForABlockedWriterAndKeepsItsNumber) {
-    Connection client;
-    client.Start();
+    RunningConnection client;
     client.Queue(big);
     client.Queue("never");
-    EXPECT_TRUE(Eventually([&] { return BytesWaiting(client.client_in_) > 4; })) << "the writer is in the text";
-    client.Pipe().Kill();
-    client.Pipe().Kill();
-    EXPECT_TRUE(client.Pipe().Killed());
-    int const next = open("/dev/null", O_RDONLY);
-    EXPECT_NE(next, client.output_);
-    close(next);
+    EXPECT_TRUE(Eventually([&] { return BytesWaiting(client.from_pipe[0]) > 4; })) << "the writer is in the text";
+    client.unix_pipe->Kill();
+    client.unix_pipe->Kill();
+    EXPECT_TRUE(client.unix_pipe->Killed());
+    EXPECT_TRUE(IsOpen(client.from_pipe[1]));
     EXPECT_EQ(client.Sent(), Frame(big)) << "what had been begun is finished, then comes the end";
 }
 
 TEST(UnixPipe, AKillBeforeTheStartEndsBothThreads) {
     Connection client;
-    client.Pipe().Kill();
+    client.unix_pipe->Kill();
     client.Queue("never");
     client.Start();
     EXPECT_EQ(client.Sent(), "");
-    EXPECT_TRUE(Eventually([&] { return client.Pipe().GetRefCount() == 1; })) << "with the client still connected";
+    EXPECT_TRUE(Eventually([&] { return ended_threads == 2; })) << "with the client still connected";
 }
 
 TEST(UnixPipe, AClientMayLeaveAtAnyMoment) {
@@ -255,8 +219,8 @@ TEST(UnixPipe, AClientMayLeaveAtAnyMoment) {
         client.Queue("anything");
         std::thread leaver([&] {
             std::this_thread::sleep_for(std::chrono::microseconds(delay));
-            client.CloseClientOut();
-            client.CloseClientIn();
+            client.Leave(client.to_pipe[1]);
+            client.Leave(client.from_pipe[0]);
         });
         client.Start();
         leaver.join();
@@ -264,57 +228,42 @@ TEST(UnixPipe, AClientMayLeaveAtAnyMoment) {
     }
 }
 
-// Runs a pipe as the process does, until its client leaves.
-[[noreturn]] void ServeStandardStreams() {
-    Connection client;
-    dup2(client.input_, 0);
-    dup2(client.output_, 1);
-    close(client.input_);
-    close(client.output_);
-    EXPECT_TRUE(client.Pipe().Start(0, 1));
-    client.CloseClientOut();
-    bool const client_sees_end = client.Sent().empty();
-    client.Release();
-    struct stat null, output;
-    stat("/dev/null", &null);
-    std::_Exit(client_sees_end && IsOpen(0) && fstat(1, &output) == 0 && output.st_rdev == null.st_rdev ? 0 : 1);
-}
-
-TEST(UnixPipe, StandardStreamsKeepTheirNumbers) {
-    GTEST_FLAG_SET(death_test_style, "threadsafe");
-    EXPECT_EXIT(ServeStandardStreams(), testing::ExitedWithCode(0), "");
-}
-
-// Lets the process exit first and its client leave only then, so that the threads end among what exit has destroyed.
+// Runs a pipe as the process does, and lets the process exit first and its client leave only then: the threads end
+// among what exit has destroyed.
 [[noreturn]] void ExitBeforeTheThreads() {
-    static auto& inbound = *new UIMessageQueue;
-    static auto& outbound = *new UIMessageQueue;
-    static std::atomic<int> ended;
-    static int to_pipe[2], from_pipe[2];
+    static Connection* client;
     std::atexit([] {
-        close(to_pipe[1]);
-        if (!Eventually([] { return ended == 2; })) std::_Exit(1);
+        client->Leave(client->to_pipe[1]);
+        bool const over = client->Sent().empty() && Eventually([] { return ended_threads == 2; });
+        struct stat null, output;
+        stat("/dev/null", &null);
+        fstat(1, &output);
+        if (!over || !IsOpen(0) || output.st_rdev != null.st_rdev) std::_Exit(1);
     });
-    AtThreadExit([] { ++ended; });
-    if (pipe(to_pipe) != 0 || pipe(from_pipe) != 0) std::_Exit(2);
-    auto* pipe = new UnixPipe(inbound, outbound);
-    UnixPipeRef const reference(pipe);
-    std::exit(pipe->Start(to_pipe[0], from_pipe[1]) ? 0 : 3);
+    client = new Connection;
+    dup2(client->to_pipe[0], 0);
+    dup2(client->from_pipe[1], 1);
+    close(client->to_pipe[0]);
+    close(client->from_pipe[1]);
+    bool const started = client->unix_pipe->Start(0, 1);
+    client->reference.reset();
+    std::exit(started ? 0 : 2);
 }
 
-TEST(UnixPipe, TheProcessMayExitBeforeItsThreads) {
+TEST(UnixPipe, TheProcessMayExitBeforeItsThreadsAndKeepsItsStandardStreams) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     EXPECT_EXIT(ExitBeforeTheThreads(), testing::ExitedWithCode(0), "");
 }
 
-TEST(UnixPipe, CountsReferencesFromZero) {
-    UIMessageQueue inbound, outbound;
-    UnixPipe pipe(inbound, outbound);
-    EXPECT_EQ(pipe.RemoveReference(), 0u);
-    EXPECT_EQ(pipe.AddReference(), 1u);
-    EXPECT_EQ(pipe.AddReference(), 2u);
-    EXPECT_EQ(pipe.RemoveReference(), 1u);
-    EXPECT_EQ(pipe.GetRefCount(), 1u);
+TEST(UIMessageQueue, HandsEverythingOverAtOnce) {
+    UIMessageQueue queue;
+    for (char const* text : {"a", "b"}) queue.WriteMessage(UIMessage(text, 7));
+    FiFoQueue<UIMessage> out;
+    queue.ReadMessages(out);
+    EXPECT_TRUE(queue.IsEmpty());
+    EXPECT_EQ(out.TakeFront().Text().AsStringView(), "a");
+    EXPECT_EQ(out.TakeFront().Kind(), 7u);
+    EXPECT_TRUE(out.IsEmpty());
 }
 
 }  // namespace
