@@ -40,11 +40,11 @@ TEST(Mutex, LetsOneThreadInAtATime) {
     Mutex mutex;
     int count = 0;
     auto add = [&] {
-        for (int i = 0; i < 2000; ++i, ReleaseMutex(&mutex)) count += WaitForMutex(mutex) == &mutex;
+        for (int i = 0; i < 30'000; ++i, ReleaseMutex(&mutex)) count += WaitForMutex(mutex) == &mutex;
     };
     std::thread threads[] = {std::thread(add), std::thread(add), std::thread(add)};
     for (auto& thread : threads) thread.join();
-    EXPECT_EQ(count, 6000);
+    EXPECT_EQ(count, 90'000);
 }
 
 TEST(Event, LetsWaitersThroughWhileItIsSet) {

@@ -27,14 +27,6 @@ void LeaveAndThrow(void*) {
     throw std::runtime_error("from a thread");
 }
 
-void SetDefaultStackSize(std::size_t size) {
-    pthread_attr_t attributes;
-    pthread_getattr_default_np(&attributes);
-    pthread_attr_setstacksize(&attributes, size);
-    pthread_setattr_default_np(&attributes);
-    pthread_attr_destroy(&attributes);
-}
-
 struct PortableThreadTest : testing::Test {
     PortableThreadTest() { Reset(); }
     void Reset() {
@@ -88,11 +80,11 @@ TEST_F(PortableThreadTest, ASmallDefaultStackIsRaisedAndALargeOneKept) {
 }
 
 TEST_F(PortableThreadTest, AThreadThatCannotStartSaysSoOnStandardError) {
-    SetDefaultStackSize(std::size_t{1} << 47);  // more than an address space
+    SetDefaultStackSize(more_stack_than_there_is);
     testing::internal::CaptureStderr();
     EXPECT_EQ(PortableThread::CreatePortableThread(Leave, nullptr), nullptr);
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "Unable to pthread_create (" + std::to_string(EAGAIN) + ")\n");
-    SetDefaultStackSize(0x800000);
+    SetDefaultStackSize(ordinary_stack);
 }
 
 TEST_F(PortableThreadTest, ExitRoutinesRunInTheOrderOfTheirRegistration) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <pthread.h>
 #include <signal.h>
 #include <unistd.h>
 
@@ -28,6 +29,17 @@ inline void ResetEndedThreads() {
     [[maybe_unused]] static bool const counted = (AtThreadExit([] { ++ended_threads; }), true);
     ended_threads = 0;
 }
+
+// Sets the stack that threads get by default. With the second size below, no thread can be started.
+inline void SetDefaultStackSize(std::size_t size) {
+    pthread_attr_t attributes;
+    pthread_getattr_default_np(&attributes);
+    pthread_attr_setstacksize(&attributes, size);
+    pthread_setattr_default_np(&attributes);
+    pthread_attr_destroy(&attributes);
+}
+inline constexpr std::size_t ordinary_stack = 0x800000;
+inline constexpr std::size_t more_stack_than_there_is = std::size_t{1} << 47;
 
 // Interrupts the system calls of every thread but the calling one, `count` times over.
 inline void InterruptOtherThreads(int count) {

@@ -213,6 +213,16 @@ TEST(UnixPipe, AKillBeforeTheStartEndsBothThreads) {
     EXPECT_TRUE(Eventually([&] { return ended_threads == 2; })) << "with the client still connected";
 }
 
+TEST(UnixPipe, APipeWithoutItsThreadsIsKilled) {
+    Connection client;
+    SetDefaultStackSize(more_stack_than_there_is);
+    EXPECT_FALSE(client.unix_pipe->Start(client.to_pipe[0], client.from_pipe[1]));
+    SetDefaultStackSize(ordinary_stack);
+    EXPECT_TRUE(client.unix_pipe->Killed());
+    EXPECT_EQ(client.unix_pipe->GetRefCount(), 1u);
+    EXPECT_EQ(client.Sent(), "");
+}
+
 TEST(UnixPipe, AClientMayLeaveAtAnyMoment) {
     for (int delay = 0; delay < 300; delay += 10) {
         Connection client;
