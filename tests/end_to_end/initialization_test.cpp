@@ -15,10 +15,6 @@ class Initialization : public ProgramTest {
         std::filesystem::create_directories(file.parent_path());
         std::ofstream(file) << text;
     }
-    static std::string Read(std::filesystem::path const& file) {
-        std::ifstream stream(file);
-        return {std::istreambuf_iterator<char>(stream), {}};
-    }
     Names NamesInBase() const {
         Names names;
         for (auto const& entry : std::filesystem::directory_iterator(BaseDirectory())) {

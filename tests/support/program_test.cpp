@@ -1,5 +1,7 @@
 #include "tests/support/program_test.h"
 
+#include <fstream>
+
 void ProgramTest::Start(Environment const& changes) {
     tools::PlayerOptions options;
     options.launch.program = PROGRAM_UNDER_TEST;
@@ -21,4 +23,9 @@ void ProgramTest::TearDown() {
     Program().CloseSending();
     EXPECT_EQ(Program().WaitForEnd(std::chrono::seconds(10)), ending_);
     EXPECT_EQ(Program().ReceiveFrame(std::chrono::milliseconds(0)).value_or("nothing"), "nothing");
+}
+
+std::string ProgramTest::Read(std::filesystem::path const& file) {
+    std::ifstream stream(file);
+    return {std::istreambuf_iterator<char>(stream), {}};
 }

@@ -36,6 +36,9 @@ class ProgramTest : public ::testing::Test {
     // The one the program is told to use unless a case names another.
     std::filesystem::path BaseDirectory() const { return Directory() / "base"; }
 
+    // What a file holds; nothing for one that is not there.
+    static std::string Read(std::filesystem::path const& file);
+
     std::string ending_ = "exit 0";
 
   private:
