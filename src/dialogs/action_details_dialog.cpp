@@ -49,6 +49,8 @@ void Build(unsigned long long id) {
     Widget ok = Create(form, "ok", commandWidgetClass,
                        {{XtNfromVert, text}, {XtNlabel, label.c_str()}, {XtNinternational, true}});
     SetResources(ok, {{XtNhorizDistance, BorderWidthOf(text) + WidthOf(text) - WidthOf(ok)}});
+    AnchorInForm(text, Anchor::AllSides);
+    AnchorInForm(ok, Anchor::BottomRight);
     OnPressed(ok, Close);
     SetSensitive(text, false);
 

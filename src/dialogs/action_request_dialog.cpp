@@ -247,6 +247,14 @@ void CreateSnoozePart(Widget form) {
     OnPressed(dialog.snooze, SnoozePressed);
 }
 
+// The layout is this dialog's own: the form keeps to it.
+void AnchorAll(Widget form) {
+    for (char const* name :
+         {"actiontitle", "actiondesc", "actionListLabel", "viewport", "takeAllActions", "takeActions", "cancelAction",
+          "actionDetails", "snoozeLabel", "snoozeViewport", "snoozeButton"})
+        AnchorInForm(XtNameToWidget(form, name), Anchor::TopLeft);
+}
+
 // Everything has its text before the windows exist, and the final layout before they are seen.
 void Build() {
     auto const title = ControlLiteral(LocalizedStrings::ActionRequestTitle());
@@ -255,6 +263,7 @@ void Build() {
     CreateActionPart(form);
     CreateActionButtons(form);
     CreateSnoozePart(form);
+    AnchorAll(form);
     dialog.enabled = true;
     Refresh();
 

@@ -82,6 +82,7 @@ void CreateButtons(Widget form, Texts const& texts, Widget text) {
     SetResources(cancel, {{XtNhorizDistance, cancel_left}});
     Widget ok = CreateButton(form, "ok", texts.ok, text);
     SetResources(ok, {{XtNhorizDistance, cancel_left - 6 * border - WidthOf(ok)}});
+    for (Widget button : {ok, cancel}) AnchorInForm(button, Anchor::BottomRight);
     OnPressed(ok, [] { Answer(UICommandType::ConfirmationAccepted); });
     OnPressed(cancel, [] { Answer(UICommandType::ConfirmationDeclined); });
 }
@@ -98,6 +99,8 @@ void Build(unsigned long long id) {
     minimum_text_width = std::max(minimum_text_width, WidthOf(explanation));
     Widget text = CreateReadOnlyText(form, "actionconfirmation", texts.confirmation.c_str(),
                                      {{XtNfromVert, explanation}, {XtNwidth, minimum_text_width}, {XtNheight, 100}});
+    for (Widget label : {title, explanation}) AnchorInForm(label, Anchor::TopLeft);
+    AnchorInForm(text, Anchor::AllSides);
     CreateButtons(form, texts, text);
     SetSensitive(text, false);
 

@@ -72,6 +72,8 @@ void Build(MessageDialog& dialog) {
     Widget dismiss = Create(form, "dismiss", commandWidgetClass,
                             {{XtNfromVert, text}, {XtNlabel, label.c_str()}, {XtNinternational, true}});
     SetResources(dismiss, {{XtNhorizDistance, WidthOf(text) + BorderWidthOf(text) - WidthOf(dismiss)}});
+    AnchorInForm(text, Anchor::AllSides);
+    AnchorInForm(dismiss, Anchor::BottomRight);
     OnPressed(dismiss, [shell] { Dismiss(shell); });
     SetSensitive(text, false);
 

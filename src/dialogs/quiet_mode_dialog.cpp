@@ -43,6 +43,7 @@ void Build(Instant const& start, Instant const& end) {
     Widget ok = Create(form, "ok", commandWidgetClass,
                        {{XtNfromVert, label}, {XtNlabel, ok_label.c_str()}, {XtNinternational, true}});
     SetResources(ok, {{XtNhorizDistance, BorderWidthOf(label) + (WidthOf(label) - WidthOf(ok)) / 2}});
+    for (Widget child : {label, ok}) AnchorInForm(child, Anchor::TopLeft);
     OnPressed(ok, Close);
 
     RealizeDialogShell(shell);

@@ -2,6 +2,7 @@
 
 #include <X11/Intrinsic.h>
 #include <X11/StringDefs.h>
+#include <X11/Xaw/Form.h>
 
 #include <algorithm>
 #include <cstring>
@@ -66,6 +67,14 @@ void Rewiden(Widget widget, int width) {
     XtUnmanageChild(widget);
     SetResources(widget, {{XtNwidth, ClampedSize(width)}});
     XtManageChild(widget);
+}
+
+void AnchorInForm(Widget child, Anchor anchor) {
+    bool const right = anchor == Anchor::BottomRight, left = anchor == Anchor::TopLeft;
+    SetResources(child, {{XtNtop, right ? XawChainBottom : XawChainTop},
+                         {XtNleft, right ? XawChainRight : XawChainLeft},
+                         {XtNbottom, left ? XawChainTop : XawChainBottom},
+                         {XtNright, left ? XawChainLeft : XawChainRight}});
 }
 
 void SetSensitive(Widget widget, bool sensitive) {

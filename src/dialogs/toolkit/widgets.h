@@ -28,6 +28,12 @@ int DisplayWidthInPixels();
 // Gives a managed widget a new width behind its parent's back and lets the parent lay it out again.
 void Rewiden(Widget widget, int width);
 
+// What becomes of a form's child when the window changes its size: it stays as it is at the top left, grows with the
+// window, or keeps its distance from the bottom right corner. A form left to itself stretches all of them in proportion,
+// buttons and gaps as well.
+enum class Anchor { TopLeft, AllSides, BottomRight };
+void AnchorInForm(Widget child, Anchor anchor);
+
 void SetSensitive(Widget widget, bool sensitive);
 
 // Shows or hides a managed widget without giving up its place.
