@@ -16,4 +16,6 @@ Widget CreateReadOnlyText(Widget parent, char const* name, char const* text, Arg
 
 void SetText(Widget readOnlyText, char const* text) {
     SetResources(readOnlyText, {{XtNstring, text}});
+    // Drawn anew as a whole: lines of another height would leave parts of the old ones behind.
+    if (XtIsRealized(readOnlyText)) XClearArea(XtDisplay(readOnlyText), XtWindow(readOnlyText), 0, 0, 0, 0, True);
 }

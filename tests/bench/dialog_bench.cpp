@@ -1,0 +1,58 @@
+#include <X11/Intrinsic.h>
+#include <benchmark/benchmark.h>
+
+#include <clocale>
+#include <string>
+
+#include "core/process/process_state.h"
+#include "core/process/x_connection.h"
+#include "dialogs/action_request_dialog.h"
+#include "tools/virtual_display.h"
+
+// The action request dialog on a virtual display.
+
+namespace {
+
+void OpenDisplay() {
+    static tools::VirtualDisplay server;
+    if (display) return;
+    std::setlocale(LC_ALL, "C.UTF-8");
+    XtToolkitInitialize();
+    app_context = XtCreateApplicationContext();
+    int count = 0;
+    display = XtOpenDisplay(app_context, server.Name().c_str(), "bench", "XQENClientUI", nullptr, 0, &count, nullptr);
+}
+
+void FillPendingList(std::int64_t count) {
+    actions.Clear();
+    for (std::int64_t i = 0; i < count; ++i) {
+        ActionRequest action;
+        action.id = static_cast<unsigned long long>(i);
+        action.SetTitle(("Update the package number " + std::to_string(i)).c_str());
+        action.deadline = TimeObject(Instant::Now() + TimeInterval::Minutes(60 + i), TimeZone());
+        actions.Append(action);
+    }
+}
+
+// One refresh as a tick does it: every text converted, the rows replaced, everything laid out and sent to the server.
+void RefreshOfTheActionRequestDialog(benchmark::State& state) {
+    OpenDisplay();
+    FillPendingList(state.range(0));
+    ShowActionRequestDialog(false, TimeInterval::Minutes(15), true);
+    for (auto _ : state) {
+        UpdateActionRequestDialog();
+        RefreshActionRequestDialog();
+        XFlush(display);
+    }
+    HideActionRequestDialog();
+    state.SetComplexityN(state.range(0));
+}
+BENCHMARK(RefreshOfTheActionRequestDialog)
+    ->Arg(125)
+    ->Arg(250)
+    ->Arg(500)
+    ->Arg(1000)
+    ->Unit(benchmark::kMillisecond)
+    ->Complexity(benchmark::oN);
+
+}  // namespace
