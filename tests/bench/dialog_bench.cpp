@@ -7,6 +7,8 @@
 #include "core/process/process_state.h"
 #include "core/process/x_connection.h"
 #include "dialogs/action_request_dialog.h"
+#include "dialogs/toolkit/callbacks.h"
+#include "dialogs/toolkit/dialog_shell.h"
 #include "tools/virtual_display.h"
 
 // The action request dialog on a virtual display.
@@ -21,6 +23,7 @@ void OpenDisplay() {
     app_context = XtCreateApplicationContext();
     int count = 0;
     display = XtOpenDisplay(app_context, server.Name().c_str(), "bench", "XQENClientUI", nullptr, 0, &count, nullptr);
+    RegisterAction<SystemMenuClose>("SystemMenuClose");
 }
 
 void FillPendingList(std::int64_t count) {

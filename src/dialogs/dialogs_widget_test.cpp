@@ -1,0 +1,312 @@
+#include <X11/Intrinsic.h>
+#include <X11/Shell.h>
+#include <X11/StringDefs.h>
+#include <X11/Xaw/List.h>
+
+#include <algorithm>
+#include <clocale>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "core/process/process_state.h"
+#include "core/process/ui_command.h"
+#include "core/process/x_connection.h"
+#include "dialogs/action_details_dialog.h"
+#include "dialogs/action_request_dialog.h"
+#include "dialogs/confirmation_dialog.h"
+#include "dialogs/message_dialogs.h"
+#include "dialogs/quiet_mode_dialog.h"
+#include "dialogs/toolkit/callbacks.h"
+#include "dialogs/toolkit/dialog_shell.h"
+#include "dialogs/toolkit/list_rows.h"
+#include "dialogs/toolkit/scroll_bars.h"
+#include "dialogs/toolkit/widgets.h"
+#include "tools/virtual_display.h"
+
+#undef Bool
+#undef None
+#undef Status
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+// The dialogs in process on a virtual display, without a window manager.
+
+namespace {
+
+void OpenDisplay() {
+    static tools::VirtualDisplay server;
+    if (display) return;
+    std::setlocale(LC_ALL, "C.UTF-8");
+    XtToolkitInitialize();
+    app_context = XtCreateApplicationContext();
+    int count = 0;
+    display = XtOpenDisplay(app_context, server.Name().c_str(), "test", "XQENClientUI", nullptr, 0, &count, nullptr);
+    RegisterAction<SystemMenuClose>("SystemMenuClose");
+}
+
+class DialogsTest : public testing::Test {
+  protected:
+    void SetUp() override { OpenDisplay(); }
+    void TearDown() override {
+        actions.Clear();
+        HideActionRequestDialog();
+        HideActionDetailsDialog();
+        HideConfirmationRequestDialog();
+        RemoveQuietModeDialog();
+        Commands();
+    }
+
+    void Pend(
+        int count, std::function<void(ActionRequest&)> change = [](ActionRequest&) {}) {
+        actions.Clear();
+        for (int i = 0; i < count; ++i) {
+            ActionRequest action;
+            action.id = static_cast<unsigned long long>(i);
+            action.SetTitle(("Action " + std::to_string(i)).c_str());
+            change(action);
+            actions.Append(action);
+        }
+    }
+    void Show() { ShowActionRequestDialog(false, TimeInterval::Minutes(15), true); }
+    void Refresh() {
+        UpdateActionRequestDialog();
+        RefreshActionRequestDialog();
+        Settle();
+    }
+
+    // Lets the toolkit handle what the server has sent.
+    static void Settle() {
+        XSync(display, False);
+        while (XtAppPending(app_context) & XtIMXEvent) {
+            XtAppProcessEvent(app_context, XtIMXEvent);
+            XSync(display, False);
+        }
+    }
+
+    // The shells of this name that are on the screen.
+    static std::vector<Widget> Shells(std::string const& name) {
+        Settle();
+        Window root, parent, *children = nullptr;
+        unsigned count = 0;
+        XQueryTree(display, DefaultRootWindow(display), &root, &parent, &children, &count);
+        std::vector<Widget> found;
+        for (unsigned i = 0; i < count; ++i) {
+            Widget shell = XtWindowToWidget(display, children[i]);
+            if (shell && XtName(shell) == name) found.push_back(shell);
+        }
+        XFree(children);
+        return found;
+    }
+    static Widget Find(Widget shell, char const* path) {
+        Widget found = XtNameToWidget(shell, path);
+        EXPECT_NE(found, nullptr) << path;
+        return found;
+    }
+    static Widget InDialog(char const* path) { return Find(ActionRequestDialogShell(), path); }
+    static Widget ListIn(char const* viewport) {
+        WidgetList children = nullptr;
+        Cardinal count = 0;
+        XtVaGetValues(InDialog(viewport), XtNchildren, &children, XtNnumChildren, &count, nullptr);
+        auto* list = std::find_if(children, children + count, [](Widget w) { return XtClass(w) == listWidgetClass; });
+        return *list;
+    }
+    static int LeftOf(Widget widget) {
+        Position x = 0;
+        XtVaGetValues(widget, XtNx, &x, nullptr);
+        return x;
+    }
+    static int RightOf(Widget widget) { return LeftOf(widget) + WidthOf(widget) + BorderWidthOf(widget); }
+    static std::string Text(Widget widget, char const* resource) {
+        char* text = nullptr;
+        XtVaGetValues(widget, resource, &text, nullptr);
+        return text ? text : "";
+    }
+    static void Press(Widget button) {
+        XtCallCallbacks(button, XtNcallback, nullptr);
+        Settle();
+    }
+    static std::vector<std::pair<UICommandType, unsigned long long>> Commands() {
+        FiFoQueue<std::unique_ptr<UICommand>> queued;
+        uiCommandQ.ReadMessages(queued);
+        std::vector<std::pair<UICommandType, unsigned long long>> commands;
+        while (!queued.IsEmpty()) {
+            auto command = queued.TakeFront();
+            commands.emplace_back(command->Type(), command->ActionID());
+        }
+        return commands;
+    }
+};
+
+TEST_F(DialogsTest, TheListsScrollBarComesAndGoesBesideTheRows) {
+    Pend(2);
+    Show();
+    for (int count : {20, 3, 0, 500, 1}) {
+        Pend(count);
+        Refresh();
+        Widget bar = VerticalScrollbar(InDialog("form.viewport"));
+        EXPECT_EQ(bar != nullptr, count > 5) << count;
+        // The window's width is the buttons', with or without the bar.
+        EXPECT_EQ(WidthOf(InDialog("form.viewport")), WidthOf(InDialog("form.actiontitle"))) << count;
+    }
+}
+
+TEST_F(DialogsTest, EverythingFitsTheWindowAfterEachRefresh) {
+    Pend(3, [](ActionRequest& action) { action.preview = SharedUString<UTF8>(); });
+    Show();
+    for (int count : {3, 1, 0, 30, 2}) {
+        Pend(count);
+        Refresh();
+        Widget const form = InDialog("form");
+        int right = 4;
+        for (auto name : {"form.takeAllActions", "form.takeActions", "form.cancelAction", "form.actionDetails"}) {
+            EXPECT_GE(LeftOf(InDialog(name)), right) << name << count;
+            right = RightOf(InDialog(name));
+        }
+        for (auto name : {"form.actionDetails", "form.snoozeButton", "form.viewport", "form.actiondesc"})
+            EXPECT_LE(RightOf(InDialog(name)), WidthOf(form)) << name << count;
+        EXPECT_EQ(WidthOf(InDialog("form.actiontitle")), WidthOf(InDialog("form.actiondesc")));
+    }
+}
+
+TEST_F(DialogsTest, AnEmptiedDialogIsFilledAgain) {
+    Pend(2);
+    Show();
+    Pend(0);
+    Refresh();
+    EXPECT_FALSE(XtIsSensitive(InDialog("form.takeAllActions")));
+    EXPECT_EQ(Text(InDialog("form.snoozeButton"), XtNlabel), "Close");
+    Pend(1);
+    Refresh();
+    EXPECT_TRUE(XtIsSensitive(InDialog("form.takeAllActions")));
+    EXPECT_EQ(Text(InDialog("form.snoozeButton"), XtNlabel), "Snooze");
+    EXPECT_EQ(Text(InDialog("form.actiontitle"), XtNlabel), "There is 1 pending action.");
+}
+
+TEST_F(DialogsTest, ADisabledDialogKeepsItsListAndHearsNothing) {
+    Pend(2);
+    Show();
+    Press(InDialog("form.takeAllActions"));
+    EXPECT_EQ(Commands(), (std::vector{std::pair(UICommandType::TakeAll, 0ULL)}));
+    for (auto name :
+         {"form.takeAllActions", "form.takeActions", "form.cancelAction", "form.actionDetails", "form.snoozeButton"})
+        EXPECT_FALSE(XtIsSensitive(InDialog(name))) << name;
+    EXPECT_FALSE(XtIsSensitive(ListIn("form.viewport")) || XtIsSensitive(ListIn("form.snoozeViewport")));
+    Pend(5);
+    Refresh();
+    EXPECT_EQ(Text(InDialog("form.actiontitle"), XtNlabel), "There are 2 pending actions.");
+    EnableActionRequestDialog();
+    RefreshActionRequestDialog();
+    EXPECT_EQ(Text(InDialog("form.actiontitle"), XtNlabel), "There are 5 pending actions.");
+    EXPECT_TRUE(XtIsSensitive(ListIn("form.viewport")));
+}
+
+TEST_F(DialogsTest, TheProposedChoiceIsHighlightedAndInView) {
+    Pend(1);
+    Show();
+    for (int refreshes = 0; refreshes < 3; ++refreshes) {
+        Widget const list = ListIn("form.snoozeViewport");
+        EXPECT_EQ(HighlightedRow(list), 3);
+        int x, y;
+        Window child;
+        // Where the server has it, not where the toolkit believes it to be.
+        XTranslateCoordinates(display, XtWindow(list), XtWindow(InDialog("form.snoozeViewport")), 0, 0, &x, &y, &child);
+        EXPECT_EQ(y, -3 * HeightOf(list) / 17) << refreshes;
+        Refresh();
+    }
+}
+
+TEST_F(DialogsTest, AConfirmationIsAnsweredOnceAndIsNeverNarrowerThanItsExplanation) {
+    Pend(2, [](ActionRequest& action) { action.pre_action_message = SharedUString<UTF8>(UStringRef<UTF8>("Sure?")); });
+    for (auto [button, answer] : {std::pair("form.ok", UICommandType::ConfirmationAccepted),
+                                  {"form.cancel", UICommandType::ConfirmationDeclined}}) {
+        ShowConfirmationRequestDialog(1);
+        ShowConfirmationRequestDialog(0);
+        auto const shells = Shells("ConfirmationDialog");
+        ASSERT_EQ(shells.size(), 1u);
+        Widget const text = Find(shells[0], "form.actionconfirmation"), ok = Find(shells[0], "form.ok"),
+                     cancel = Find(shells[0], "form.cancel");
+        EXPECT_GE(WidthOf(text), std::max(500, WidthOf(Find(shells[0], "form.staticlabel"))));
+        EXPECT_EQ(Text(Find(shells[0], "form.actiontitle"), XtNlabel), "Action 1");
+        EXPECT_EQ(LeftOf(cancel), BorderWidthOf(text) + WidthOf(text) - WidthOf(cancel));
+        EXPECT_EQ(LeftOf(cancel) - LeftOf(ok), WidthOf(ok) + 6 * BorderWidthOf(text));
+        Press(Find(shells[0], button));
+        EXPECT_EQ(Commands(), (std::vector{std::pair(answer, 1ULL)}));
+        EXPECT_TRUE(Shells("ConfirmationDialog").empty());
+    }
+}
+
+TEST_F(DialogsTest, APreviewShowsTheScriptOrTheLastOneShown) {
+    Pend(1, [](ActionRequest& action) { action.preview = SharedUString<UTF8>(UStringRef<UTF8>("echo")); });
+    for (unsigned long long id : {0, 77}) {
+        ShowActionDetailsDialog(id);
+        ShowActionDetailsDialog(id);
+        auto const shells = Shells("ActionDetailsDialog");
+        ASSERT_EQ(shells.size(), 1u);
+        EXPECT_EQ(Text(Find(shells[0], "form.actiondetails"), XtNstring), "echo");
+        EXPECT_FALSE(XtIsSensitive(Find(shells[0], "form.actiondetails")));
+        EXPECT_TRUE(XtIsSensitive(TextScrollbar(Find(shells[0], "form.actiondetails"))));
+        Press(Find(shells[0], "form.ok"));
+        EXPECT_EQ(Commands(), (std::vector{std::pair(UICommandType::DetailsClosed, 0ULL)}));
+    }
+}
+
+TEST_F(DialogsTest, TheQuietNoticeKeepsItsFirstTimesAndAnswersOnlyItsButton) {
+    ShowQuietModeDialog(Instant(0), Instant(1'000'000));
+    ShowQuietModeDialog(Instant(0), Instant(2'000'000));
+    auto shells = Shells("QuietModeDialog");
+    ASSERT_EQ(shells.size(), 1u);
+    Widget const label = Find(shells[0], "form.staticlabel"), ok = Find(shells[0], "form.ok");
+    EXPECT_THAT(Text(label, XtNlabel), testing::EndsWith(":01."));
+    EXPECT_NEAR(LeftOf(label) + WidthOf(label) / 2, LeftOf(ok) + WidthOf(ok) / 2, 1 + LeftOf(label));
+    RemoveQuietModeDialog();
+    EXPECT_TRUE(Shells("QuietModeDialog").empty() && Commands().empty());
+    ShowQuietModeDialog(Instant(0), Instant(0));
+    Press(Find(Shells("QuietModeDialog").at(0), "form.ok"));
+    EXPECT_EQ(Commands(), (std::vector{std::pair(UICommandType::QuietNoticeClosed, 0ULL)}));
+}
+
+MessageRequest Message(unsigned long long id, char const* title, NullOr<TimeInterval> timeout = {}) {
+    MessageRequest request;
+    request.id = id;
+    request.title = request.message = SharedUString<UTF8>(UStringRef<UTF8>(title));
+    request.timeout = timeout;
+    return request;
+}
+
+TEST_F(DialogsTest, MessagesAreKnownByTheirIDs) {
+    for (unsigned long long id = 1; id <= 200; ++id) ShowMessageDialog(Message(id, "one"));
+    EXPECT_EQ(Shells("MessageDialog").size(), 200u);
+    auto changed = Message(7, "Say \"{x}\"", TimeInterval(0));
+    changed.is_completion_message = true;
+    ShowMessageDialog(changed);
+    std::size_t found = 0;
+    for (Widget shell : Shells("MessageDialog")) {
+        if (Text(shell, XtNtitle) != "Corvane notification:") continue;
+        ++found;
+        EXPECT_EQ(Text(Find(shell, "form.actionmessage"), XtNstring), "Action \"Say \"{x}\"\" has completed.");
+    }
+    EXPECT_EQ(found, 1u);
+    RemoveTimedoutMessageDialogs();
+    EXPECT_EQ(Shells("MessageDialog").size(), 199u);
+    Press(Find(Shells("MessageDialog")[0], "form.dismiss"));
+    for (unsigned long long id = 1; id <= 198; ++id) RemoveMessageDialog(id);
+    EXPECT_LE(Shells("MessageDialog").size(), 2u);
+    for (unsigned long long id = 199; id <= 200; ++id) RemoveMessageDialog(id);
+    EXPECT_TRUE(Shells("MessageDialog").empty() && Commands().empty());
+}
+
+TEST_F(DialogsTest, AnUpdateDecidesWhetherAMessageEnds) {
+    ShowMessageDialog(Message(1, "a", TimeInterval(-1)));
+    ShowMessageDialog(Message(2, "b", TimeInterval(INT64_MAX)));
+    ShowMessageDialog(Message(1, "c"));
+    RemoveTimedoutMessageDialogs();
+    EXPECT_EQ(Shells("MessageDialog").size(), 2u);
+    ShowMessageDialog(Message(2, "b", TimeInterval(-1)));
+    RemoveTimedoutMessageDialogs();
+    ASSERT_EQ(Shells("MessageDialog").size(), 1u);
+    EXPECT_EQ(Text(Shells("MessageDialog")[0], XtNtitle), "c");
+    RemoveMessageDialog(1);
+}
+
+}  // namespace
