@@ -8,7 +8,6 @@ void ProgramTest::Start(Environment const& changes) {
     options.launch.environment = {{"DISPLAY", display_.Name()},
                                   {"LC_ALL", "C"},
                                   {"LANGUAGE", std::nullopt},
-                                  {"LOCPATH", TEST_LOCALES},
                                   {"ASAN_OPTIONS", "malloc_context_size=2"},
                                   {"LSAN_OPTIONS", "print_suppressions=0:suppressions=" LEAKS_OF_THE_TOOLKIT}};
     for (auto const& [name, value] : changes) options.launch.environment[name] = value;
