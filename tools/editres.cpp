@@ -100,7 +100,9 @@ std::string Editres::ReadResource(Window shell, RemoteWidget const& widget, std:
 // for that in turn.
 std::string Editres::Ask(Window shell, char command, std::string const& question, Milliseconds limit) {
     ++serial_;
-    std::string text = Packer().Number(serial_, 1).Number(command, 1).Number(question.size(), 4).Text() + question;
+    std::string text =
+        Packer().Number(serial_, 1).Number(static_cast<unsigned char>(command), 1).Number(question.size(), 4).Text() +
+        question;
     XSetSelectionOwner(display_, selection_, window_, CurrentTime);
     SendNotice(shell);
     std::optional<std::string> answer;

@@ -128,9 +128,12 @@ void ScenarioPlayer::WaitFor(ScenarioLine const& line) {
 }
 
 void ScenarioPlayer::WaitForResource(ScenarioLine const& line, Milliseconds limit) {
-    for (auto const& [resource, wanted] : line.values) {
+    for (auto const& value : line.values) {
         std::string found;
-        auto fits = [&] { return (found = Screen().ReadResource(window_, line.Word(2), resource)) == wanted; };
+        auto fits = [&] {
+            found = Screen().ReadResource(window_, line.Word(2), value.first);
+            return found == value.second;
+        };
         if (!WaitUntil(limit, fits)) throw std::runtime_error("it is " + found);
     }
 }

@@ -66,7 +66,7 @@ bool PortableThread::RunPortableThread(Function function, void* argument) {
 bool PortableThread::Start() {
     if (!not_started_) return true;
     not_started_ = false;
-    auto block = std::make_unique<StartBlock>(function_, argument_, this);
+    auto block = std::make_unique<StartBlock>(StartBlock{function_, argument_, this});
     pthread_attr_t attributes;
     if (!Succeeded(pthread_attr_init(&attributes), "pthread_attr_init")) return false;
     // A fire-and-forget thread may have freed this object before pthread_create returns: what is needed afterwards is

@@ -29,7 +29,8 @@ int X_IOErrorHandler(Display*) {
     ExitCleanup(0, "CLOSED");
 }
 
-void Xt_ErrorHandler(String message) {
+// Clang takes only what never returns for the toolkit's kind of handler.
+_X_NORETURN void Xt_ErrorHandler(String message) {
     ExitCleanup(-1, (std::string("XtError: ") + message).c_str());
 }
 

@@ -44,7 +44,7 @@ TEST_F(Channel, FramesMayArriveByteByByteAndCutAnywhere) {
     for (char byte : tools::Frame(Document("initialize"))) Program().SendBytes({&byte, 1});
     Program().SendFrame("");
     std::string frame = tools::Frame(Overdue(1)) + tools::Frame(Overdue(2));
-    for (size_t cut : {2, 300}) Program().SendBytes(frame.substr(0, cut)), frame.erase(0, cut);
+    for (size_t cut : {2u, 300u}) Program().SendBytes(frame.substr(0, cut)), frame.erase(0, cut);
     Program().SendBytes(frame);
     Play("expect ActionTaken ID=1\nexpect ActionTaken ID=2");
 }

@@ -13,8 +13,8 @@ Stringy Encoded(Stringy const& bytes) {
     auto alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
     Stringy text;
     unsigned bits = 0, waiting = 0;
-    for (unsigned char byte : bytes) {
-        bits = bits << 8 | byte;
+    for (char byte : bytes) {
+        bits = bits << 8 | static_cast<unsigned char>(byte);
         for (waiting += 8; waiting >= 6; waiting -= 6) text += alphabet[bits >> (waiting - 6) & 63];
     }
     if (waiting) text += alphabet[bits << (6 - waiting) & 63];

@@ -72,7 +72,7 @@ TEST(SharedUString, CopiesStandOverOneBufferUntilTheLastGoes) {
     copy = none;
     moved = Shared(std::move(assigned));
     assigned = moved;
-    moved = moved;
+    moved = static_cast<Shared const&>(moved);
     EXPECT_TRUE(copy.empty() && moved == Ref("abc") && assigned == moved);
     EXPECT_TRUE(Shared(AutoUString<UTF8>()).empty());
 }

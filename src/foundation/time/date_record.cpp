@@ -14,8 +14,8 @@ constexpr std::array kDaysBeforeMonth = {0, 31, 59, 90, 120, 151, 181, 212, 243,
 constexpr std::array kDaysInMonth = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
 
 // Where the month stands in the tables.
-int MonthIndex(Month month) {
-    return std::clamp(static_cast<int>(month), 1, 12) - 1;
+std::size_t MonthIndex(Month month) {
+    return std::clamp(static_cast<std::size_t>(month), std::size_t{1}, std::size_t{12}) - 1;
 }
 
 int DaysBeforeMonth(std::size_t index, bool leap) {
