@@ -7,39 +7,38 @@
 
 // An immutable string shared by copying: the copies stand over one buffer, which goes with the last of them.
 //
-// Copies of one string may be made and dropped on different threads; a single object is used by one thread at a time.
-// An empty string shares nothing and allocates nothing.
+// Copies of one string may be made, also of one object, and dropped on different threads; otherwise a single object is
+// used by one thread at a time. What is never copied costs its buffer and nothing else: the count of the sharers is made
+// with the first copy. An empty string shares nothing and allocates nothing.
 template <class E>
 class SharedUString {
   public:
     using Unit = typename E::Unit;
 
     SharedUString() = default;
-    // Takes over the buffer. When memory for the sharing count is short, `text` keeps it.
-    SharedUString(ResourceTransfer<AutoUString<E>> text) {
-        if (text.empty()) return;
-        link_ = SharingLink();
-        known_valid_ = text.Ref().KnownValid();
-        end_ = text.end();
+    // Takes over the buffer.
+    SharedUString(ResourceTransfer<AutoUString<E>> text) noexcept : end_(text.end()) {
         begin_ = text.Release().release();
     }
     explicit SharedUString(UStringRef<E> text) : SharedUString(AutoUString<E>(text)) {}
 
-    SharedUString(SharedUString const& other) = default;
-    SharedUString(SharedUString&& other) noexcept { swap(other); }
+    SharedUString(SharedUString const& other) : begin_(other.begin_), end_(other.end_), link_(other.Link()) {}
+    SharedUString(SharedUString&& other) noexcept
+        : begin_(std::exchange(other.begin_, nullptr)),
+          end_(std::exchange(other.end_, nullptr)),
+          link_(std::move(other.link_)) {}
     SharedUString& operator=(SharedUString other) noexcept {
         swap(other);
         return *this;
     }
     ~SharedUString() {
-        if (link_.Leave()) delete[] begin_;
+        if (!link_ || link_.Leave()) delete[] begin_;
     }
 
     void swap(SharedUString& other) noexcept {
         std::swap(begin_, other.begin_);
         std::swap(end_, other.end_);
         link_.swap(other.link_);
-        std::swap(known_valid_, other.known_valid_);
     }
 
     Unit const* begin() const { return begin_; }
@@ -48,14 +47,19 @@ class SharedUString {
     bool empty() const { return begin_ == end_; }
     std::string_view AsStringView() const requires ByteEncoding<E> { return Ref().AsStringView(); }
 
-    UStringRef<E> Ref() const { return {begin_, end_, known_valid_}; }
+    // Whether the text is valid is not kept.
+    UStringRef<E> Ref() const { return {begin_, end_}; }
     operator UStringRef<E>() const { return Ref(); }
 
   private:
+    SharingLink const& Link() const {
+        if (!empty()) link_.Found();
+        return link_;
+    }
+
     Unit const* begin_ = nullptr;
     Unit const* end_ = nullptr;
-    SharingLink link_{nullptr};
-    bool known_valid_ = false;
+    mutable SharingLink link_{nullptr};  // stands for nothing until there is somebody to share with
 };
 
 template <class E>

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <latch>
 #include <thread>
 #include <vector>
 
@@ -96,12 +97,16 @@ TEST(SharedUString, ThreadsCopyAndDropOneStringAtTheSameTime) {
     for (int round = 0; round < 200; ++round) {
         std::vector<std::thread> threads;
         {
-            Shared text(Ref("shared by all"));
+            Shared passed(Ref("shared by all")), never_copied_before(Ref("by all"));
+            std::latch copied(4);
             for (int thread = 0; thread < 4; ++thread)
-                threads.emplace_back([text] {
-                    std::vector<Shared> copies(20, text);
-                    EXPECT_EQ(copies.back().AsStringView(), "shared by all");
+                threads.emplace_back([&, passed] {
+                    Shared copy(never_copied_before);
+                    copied.count_down();
+                    std::vector<Shared> copies(20, passed);
+                    EXPECT_EQ(copies.back().AsStringView(), "shared " + std::string(copy.AsStringView()));
                 });
+            copied.wait();
         }
         for (auto& thread : threads) thread.join();
     }
