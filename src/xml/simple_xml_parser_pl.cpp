@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "xml/byte_scan.h"
+#include "xml/simple_xml_transitions.h"
 
 namespace {
 
@@ -70,7 +71,7 @@ char const* SimpleXMLParserPL::InCharacters(char const* at, char const* end) {
     else if (stop != at)
         handler_.Characters(std::string_view(at, Length(at, stop)));  // a whole run: no need to collect it
     if (stop == end) return end;
-    TransitionState(*stop == '<' ? State::TagName : State::CharactersEntity);
+    Go(State::Characters, *stop == '<' ? State::TagName : State::CharactersEntity);
     return stop + 1;
 }
 
@@ -78,7 +79,7 @@ char const* SimpleXMLParserPL::InEntity(char const* at, char const* end, State a
     auto stop = Find(at, end, ';');
     escape_.append(at, Length(at, stop));
     if (stop == end) return end;
-    TransitionState(after);
+    Go(state_, after);
     return stop + 1;
 }
 
@@ -98,7 +99,7 @@ char const* SimpleXMLParserPL::AppendToTagName(char const* at, char const* end) 
     if (maybe_mark && tag_name_ == kCDataMark) {
         tag_name_.clear();
         previous_ = before_previous_ = 0;
-        TransitionState(State::CData);
+        Go(State::TagName, State::CData);
     }
     return end;
 }
@@ -106,17 +107,17 @@ char const* SimpleXMLParserPL::AppendToTagName(char const* at, char const* end) 
 void SimpleXMLParserPL::EndTagNameRun(char byte) {
     switch (byte) {
         case ' ':
-            if (!tag_name_.empty()) TransitionState(State::BetweenAttributes);
+            if (!tag_name_.empty()) Go(State::TagName, State::BetweenAttributes);
             break;
         case '/':
-            TransitionState(State::EndTagName);
+            Go(State::TagName, State::EndTagName);
             break;
         case '>':
-            TransitionState(State::Characters);
+            Go(State::TagName, State::Characters);
             break;
         // Dropped from the name, even when no comment follows.
         case '-':
-            if (++dashes_ > 1) TransitionState(State::Comment);
+            if (++dashes_ > 1) Go(State::TagName, State::Comment);
             break;
     }
 }
@@ -125,16 +126,16 @@ char const* SimpleXMLParserPL::InEndTagName(char const* at, char const* end) {
     auto stop = Find(at, end, '>');
     tag_name_.append(at, Length(at, stop));
     if (stop == end) return end;
-    TransitionState(State::Characters);
+    Go(State::EndTagName, State::Characters);
     return stop + 1;
 }
 
 char const* SimpleXMLParserPL::BetweenAttributes(char const* at) {
     current_ = *at;
     if (current_ == '>')
-        TransitionState(State::Characters);
+        Go(State::BetweenAttributes, State::Characters);
     else if (current_ != ' ' && current_ != '?')
-        TransitionState(State::AttributeName);
+        Go(State::BetweenAttributes, State::AttributeName);
     return at + 1;
 }
 
@@ -142,7 +143,7 @@ char const* SimpleXMLParserPL::InAttributeName(char const* at, char const* end) 
     auto stop = Find(at, end, '=');
     attribute_->first.append(at, Length(at, stop));
     if (stop == end) return end;
-    TransitionState(State::BeforeAttributeValue);
+    Go(State::AttributeName, State::BeforeAttributeValue);
     return stop + 1;
 }
 
@@ -150,7 +151,7 @@ char const* SimpleXMLParserPL::BeforeAttributeValue(char const* at, char const* 
     auto stop = ByteScan::FindEither(at, end, '"', '\'');
     if (stop == end) return end;
     quote_ = *stop;
-    TransitionState(State::AttributeValue);
+    Go(State::BeforeAttributeValue, State::AttributeValue);
     return stop + 1;
 }
 
@@ -158,7 +159,7 @@ char const* SimpleXMLParserPL::InAttributeValue(char const* at, char const* end)
     auto stop = ByteScan::FindEither(at, end, quote_, '&');
     attribute_->second.append(at, Length(at, stop));
     if (stop == end) return end;
-    TransitionState(*stop == '&' ? State::AttributeEntity : State::BetweenAttributes);
+    Go(State::AttributeValue, *stop == '&' ? State::AttributeEntity : State::BetweenAttributes);
     return stop + 1;
 }
 
@@ -171,7 +172,7 @@ char const* SimpleXMLParserPL::InComment(char const* at, char const* end) {
     dashes_ = std::min(count, 2);
     if (stop == end) return end;
     if (dashes_ > 1)
-        TransitionState(State::Characters);
+        Go(State::Comment, State::Characters);
     else
         dashes_ = 0;
     return stop + 1;
@@ -182,7 +183,7 @@ char const* SimpleXMLParserPL::InCData(char const* at, char const* end) {
     AppendToCData(at, stop);
     if (stop == end) return end;
     if (previous_ == ']' && before_previous_ == ']')
-        TransitionState(State::Characters);
+        Go(State::CData, State::Characters);
     else
         AppendToCData(stop, stop + 1);
     return stop + 1;

@@ -80,7 +80,8 @@ class SimpleXMLParserPL : public XMLHandler {
     void EndTagNameRun(char byte);
     void AppendToCData(char const* at, char const* end);
     void AppendWithoutZeros(char const* at, char const* end);
-    void LeaveState(State next);
+    void Go(State from, State next);
+    void LeaveState(State from, State next);
     void EnterState(State next);
     void FlushText();
     void ReportTag();

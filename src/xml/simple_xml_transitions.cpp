@@ -1,8 +1,7 @@
-// What leaving and entering a state entails.
-
 #include <string_view>
 
 #include "xml/simple_xml_parser_pl.h"
+#include "xml/simple_xml_transitions.h"
 
 namespace {
 
@@ -24,63 +23,7 @@ std::uint32_t LeadingHexNumber(std::string_view text) {
 }  // namespace
 
 void SimpleXMLParserPL::TransitionState(State next) {
-    LeaveState(next);
-    EnterState(next);
-    state_ = next;
-}
-
-void SimpleXMLParserPL::LeaveState(State next) {
-    switch (state_) {
-        case State::Characters:
-        case State::CData:
-            FlushText();
-            break;
-        case State::CharactersEntity:
-            escape_ += ';';
-            handler_.Characters(DecodeEscapeString());
-            break;
-        case State::TagName:
-        case State::BetweenAttributes:
-            if (next == State::Characters) ReportTag();
-            break;
-        case State::EndTagName:
-            if (next == State::Characters) handler_.EndElement(tag_name_);
-            break;
-        case State::AttributeValue:
-            if (next != State::AttributeEntity) ++attribute_count_;
-            break;
-        case State::AttributeEntity:
-            escape_ += ';';
-            attribute_->second += DecodeEscapeString();
-            break;
-        default:
-            break;
-    }
-}
-
-void SimpleXMLParserPL::EnterState(State next) {
-    switch (next) {
-        case State::CharactersEntity:
-        case State::AttributeEntity:
-            escape_ = '&';
-            break;
-        case State::TagName:
-            dashes_ = 0;
-            tag_name_.clear();
-            attribute_count_ = 0;
-            break;
-        case State::BetweenAttributes:
-            BeginAttribute();
-            break;
-        case State::AttributeName:
-            attribute_->first += current_;
-            break;
-        case State::Comment:
-            dashes_ = 0;
-            break;
-        default:
-            break;
-    }
+    Go(state_, next);
 }
 
 void SimpleXMLParserPL::FlushText() {
