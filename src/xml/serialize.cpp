@@ -62,6 +62,9 @@ AutoUString<UTF8> XMLToText(TimeObject const& value) {
 UStringRef<UTF8> XMLToText(UStringRef<UTF8> value) {
     return value;
 }
+UStringRef<UTF8> XMLToText(char const* value) {
+    return value;
+}
 UStringRef<UTF8> XMLToText(Stringy const& value) {
     return UStringRef<UTF8>(std::string_view(value));
 }

@@ -94,6 +94,7 @@ AutoUString<UTF8> XMLToText(unsigned int value);
 AutoUString<UTF8> XMLToText(TimeInterval const& value);
 AutoUString<UTF8> XMLToText(TimeObject const& value);
 UStringRef<UTF8> XMLToText(UStringRef<UTF8> value);
+UStringRef<UTF8> XMLToText(char const* value);  // or a literal would be taken for a bool
 UStringRef<UTF8> XMLToText(Stringy const& value);
 UStringRef<UTF8> XMLToText(FileLocation const& value);
 UStringRef<UTF8> XMLToText(FileName const& value);

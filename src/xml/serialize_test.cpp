@@ -1,0 +1,116 @@
+#include "xml/serialize.h"
+
+#include <gtest/gtest.h>
+
+#include "foundation/text/numerals.h"
+#include "foundation/text/ustring_builder.h"
+#include "xml/simple_xml.h"
+
+namespace {
+
+XMLElement Parsed(std::string const& document) {
+    return *SimpleXML::Parse(UStringRef<UTF8>(document));
+}
+
+template <class T>
+T Loaded(std::string const& text) {
+    T value{};
+    XMLSerialize(Parsed("<p><v>" + text + "</v></p>"), "v", value);
+    return value;
+}
+
+template <class T>
+std::string Saved(T const& value) {
+    UStringBuilder<UTF8> builder;
+    XMLWriter writer(builder, XMLFormatStyle::Compact);
+    XMLSerialize(writer, "v", value);
+    return std::string(builder.Ref().AsStringView());
+}
+
+template <class T>
+std::string Resaved(std::string const& text) {
+    return Saved(Loaded<T>(text));
+}
+
+TEST(XMLSerialize, SpellsEveryTypeAsItReadsIt) {
+    EXPECT_EQ(Resaved<SharedUString<UTF8>>(" \xC3\xA9 \n"), "<v> \xC3\xA9 \n</v>");
+    EXPECT_EQ(Resaved<AutoUString<UTF8>>(" a "), "<v> a </v>");
+    EXPECT_EQ(Resaved<CopiedUString<UTF8>>(" a "), "<v> a </v>");
+    EXPECT_EQ(Resaved<Stringy>(" a "), "<v> a </v>");
+    EXPECT_EQ(Resaved<unsigned long long>("0018446744073709551615"), "<v>18446744073709551615</v>");
+    EXPECT_EQ(Resaved<unsigned int>("4294967295"), "<v>4294967295</v>");
+    EXPECT_EQ(Resaved<unsigned int>("00"), "<v>0</v>");
+    EXPECT_EQ(Resaved<TimeInterval>("PT36H"), "<v>P1DT12H</v>");
+    EXPECT_EQ(Resaved<TimeObject>("Sun, 15 Nov 2026 02:16:00 -0330"), "<v>Sun, 15 Nov 2026 02:16:00 -0330</v>");
+    EXPECT_EQ(Resaved<FileLocation>("/a/../b&amp;"), "<v><![CDATA[/a/../b&]]></v>");
+    EXPECT_EQ(Resaved<FileName>("a/b&gt;"), "<v><![CDATA[a/b>]]></v>");
+    EXPECT_EQ(Saved("literal"), "<v>literal</v>");
+}
+
+TEST(XMLSerialize, OnlyZeroAndFalseAreFalse) {
+    for (auto text : {"0", "false"}) EXPECT_EQ(Resaved<bool>(text), "<v>false</v>") << text;
+    for (auto text : {"1", "yes", "", "False", "FALSE", "00", " 0", "false "})
+        EXPECT_EQ(Resaved<bool>(text), "<v>true</v>") << text;
+}
+
+TEST(XMLSerialize, LetsTheReadersFailuresThrough) {
+    for (auto text : {"", " 1", "1 ", "-1", "+1", "0x1"}) {
+        EXPECT_THROW(Loaded<unsigned int>(text), NotANumeral) << text;
+        EXPECT_THROW(Loaded<unsigned long long>(text), NotANumeral) << text;
+    }
+    EXPECT_THROW(Loaded<unsigned int>("4294967296"), NumeralTooLarge);
+    EXPECT_THROW(Loaded<unsigned long long>("18446744073709551616"), NumeralTooLarge);
+    EXPECT_THROW(Loaded<TimeInterval>("P1M"), DebuggableException);
+    EXPECT_THROW(Loaded<TimeObject>("2026-11-15T02:16:00Z"), DebuggableException);
+}
+
+TEST(XMLSerialize, WritesMarkupAsCDataUnlessThatWouldEndTooEarly) {
+    EXPECT_EQ(Saved(Stringy("a ]] \" '")), "<v>a ]] \" '</v>");
+    EXPECT_EQ(Saved(Stringy("<b>&")), "<v><![CDATA[<b>&]]></v>");
+    EXPECT_EQ(Saved(Stringy("&]]>")), "<v>&amp;]]&gt;</v>");
+}
+
+TEST(XMLSerialize, KeepsWhatIsThereWhenTheElementIsAbsent) {
+    auto parent = Parsed("<p> <v></v><w>1</w><w>2</w><V>3</V> </p>");
+    unsigned int number = 7;
+    XMLSerialize(parent, "x", number);
+    EXPECT_EQ(number, 7u);
+    XMLSerialize(parent, "w", number);
+    EXPECT_EQ(number, 1u);
+
+    NullOr<Stringy> text("old");
+    XMLSerialize(parent, "v", text);
+    EXPECT_EQ(text, NullOr<Stringy>(""));
+    XMLSerialize(parent, "x", text);
+    EXPECT_TRUE(text.IsNull());
+
+    Stringy own;
+    XMLLoad(parent, own);
+    EXPECT_EQ(own, "  ");
+
+    std::vector<unsigned int> numbers{9};
+    XMLLoadList(parent, "w", numbers);
+    EXPECT_EQ(numbers, (std::vector{1u, 2u}));
+}
+
+TEST(XMLSerialize, ReadsAndWritesAttributes) {
+    auto element = Parsed("<e id='5' on='false'>");
+    unsigned int id = 0;
+    XMLLoadAttribute(element, "id", id);
+    EXPECT_EQ(id, 5u);
+    EXPECT_THROW(XMLLoadAttribute(element, "di", id), NoSuchAttribute);
+    bool on = true;
+    XMLLoadAttribute(element, "no", on);
+    EXPECT_TRUE(on);
+    XMLLoadAttribute(element, "on", on);
+    EXPECT_FALSE(on);
+
+    UStringBuilder<UTF8> builder;
+    XMLWriter writer(builder, XMLFormatStyle::Compact);
+    writer.BeginElement("e");
+    XMLSaveAttribute(writer, "id", id);
+    XMLSaveAttribute(writer, "name", "<\"");
+    EXPECT_EQ(builder.Ref().AsStringView(), "<e id=\"5\" name=\"&lt;&quot;\"");
+}
+
+}  // namespace
