@@ -1,7 +1,6 @@
 #pragma once
 
 #include "xml/simple_xml_parser_pl.h"
-#include "xml/xml_name_cache.h"
 #include "xml/xml_receiver.h"
 
 namespace SimpleXML {
@@ -25,7 +24,7 @@ class SAXParser : public SimpleXMLParserPL {
 
   private:
     XMLReceiver& target_;
-    XMLNameCache names_;
+    std::vector<XMLAttributePair const*> sorted_;  // by name, and equal names in document order
 };
 
 }  // namespace SimpleXML

@@ -19,7 +19,7 @@ class NoSuchAttribute : public DebuggableException {};
 class XMLElement {
   public:
     XMLElement(UStringRef<UTF8> name, XMLAttributes const& attributes) : name_(name), attributes_(attributes) {}
-    XMLElement(SharedUString<UTF8> name, ResourceTransfer<XMLAttributes> attributes)
+    XMLElement(ResourceTransfer<SharedUString<UTF8>> name, ResourceTransfer<XMLAttributes> attributes)
         : name_(std::move(name)), attributes_(std::move(attributes)) {}
     // Copies the whole tree below the other.
     XMLElement(XMLElement const& other);
@@ -32,16 +32,16 @@ class XMLElement {
     SharedUString<UTF8> const& Name() const { return name_; }
     XMLAttributes const& Attributes() const { return attributes_; }
     std::vector<XMLElement> const& Children() const { return children_; }
-    UStringRef<UTF8> GetValue() const { return {value_.data(), value_.data() + value_.size()}; }
+    UStringRef<UTF8> GetValue() const { return UStringRef<UTF8>(value_); }
 
     // Appends to the text.
-    void AppendCharacters(UStringRef<UTF8> text) { value_.insert(value_.end(), text.begin(), text.end()); }
+    void AppendCharacters(UStringRef<UTF8> text) { value_ += text.AsStringView(); }
 
     // The first child of that name: null when there is none, or an exception (NoSuchChildElement).
     NullOrConstRef<XMLElement> FindChildElement(UStringRef<UTF8> name) const;
     XMLElement const& GetChildElement(UStringRef<UTF8> name) const;
 
-    bool HasAttribute(UStringRef<UTF8> name) const { return attributes_.contains(name); }
+    bool HasAttribute(UStringRef<UTF8> name) const { return attributes_.Find(name) != attributes_.end(); }
     // Throws NoSuchAttribute.
     SharedUString<UTF8> const& GetAttribute(UStringRef<UTF8> name) const;
 
@@ -49,12 +49,15 @@ class XMLElement {
     // not what is below them.
     XMLElement& AddChildElement(XMLElement const& child) { return AddChildElement(XMLElement(child)); }
     XMLElement& AddChildElement(ResourceTransfer<XMLElement> child);
+    // Adds a child made of these.
+    XMLElement& AddChildElement(ResourceTransfer<SharedUString<UTF8>> name, ResourceTransfer<XMLAttributes> attributes);
 
   private:
+    void MakeRoomForChild();
     void DropChildren() noexcept;
 
     SharedUString<UTF8> name_;
     XMLAttributes attributes_;
-    std::vector<unsigned char> value_;
+    Stringy value_;
     std::vector<XMLElement> children_;
 };

@@ -18,10 +18,12 @@ TEST(XMLElement, FindsTheFirstChildOfAName) {
 
 TEST(XMLElement, LooksAttributesUpByTheirBytes) {
     XMLAttributes attributes;
-    attributes.emplace(UStringRef<UTF8>("a"), UStringRef<UTF8>("1"));
+    for (auto name : {"b", "a", "c", "a"})
+        attributes.Add(SharedUString<UTF8>(UStringRef<UTF8>(name)), SharedUString<UTF8>(UStringRef<UTF8>(name)));
     XMLElement element("e", attributes);
     EXPECT_TRUE(element.HasAttribute("a"));
-    EXPECT_EQ(element.GetAttribute("a"), UStringRef<UTF8>("1"));
+    EXPECT_EQ(element.GetAttribute("a"), UStringRef<UTF8>("a"));
+    EXPECT_EQ(element.Attributes().size(), 3u);
     EXPECT_FALSE(element.HasAttribute("A"));
     EXPECT_THROW(element.GetAttribute("A"), NoSuchAttribute);
 }

@@ -1,12 +1,11 @@
 #include "xml/xml_tree_parser.h"
 
 void XMLTreeParser::StartElement(UStringRef<UTF8> name, ResourceTransfer<XMLAttributes> attributes) {
-    XMLElement element(names_.Get(name), std::move(attributes));
     if (open_.empty()) {
-        root_ = std::make_unique<XMLElement>(std::move(element));
+        root_ = std::make_unique<XMLElement>(SharedUString<UTF8>(name), std::move(attributes));
         open_.push_back(root_.get());
     } else {
-        open_.push_back(&open_.back()->AddChildElement(std::move(element)));
+        open_.push_back(&open_.back()->AddChildElement(SharedUString<UTF8>(name), std::move(attributes)));
     }
 }
 

@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "xml/xml_element.h"
-#include "xml/xml_name_cache.h"
 #include "xml/xml_receiver.h"
 
 // Builds the tree of a document from its events. An end closes the innermost open element, whatever its name; text
@@ -23,5 +22,4 @@ class XMLTreeParser : public XMLReceiver {
     // Innermost last. Each is the last child of the one before it, and an element only moves when it gets a younger
     // sibling, which is after its end; so the pointers stay good.
     std::vector<XMLElement*> open_;
-    XMLNameCache names_;
 };
