@@ -1,55 +1,66 @@
 #pragma once
 
-#include <algorithm>
+#include <array>
+#include <cstring>
 #include <vector>
 
-#include "foundation/text/shared_ustring.h"
+#include "foundation/base/null_or.h"
+#include "foundation/text/ustring_ref.h"
+#include "xml/xml_handler.h"
 
 // The attributes of one element: an ordered map from name to value, ascending by the bytes of the names.
 //
-// It is one block of memory in the order of the names. Elements have few attributes and documents have many elements,
-// so that a node for each attribute would be most of what building and freeing a tree costs. Adding names in ascending
-// order takes constant time each, any other addition moves what stands after it.
+// All of it stands in one block of memory, names and values included. Elements have few attributes and documents many
+// elements: a node and two strings for each attribute would be most of what a tree costs to build, keep and free. The
+// price is that a name is looked up from the first attribute on. What the map gives out is valid until it changes.
 class XMLAttributes {
   public:
     struct Attribute {
-        SharedUString<UTF8> name;
-        SharedUString<UTF8> value;
-
-        Attribute(ResourceTransfer<SharedUString<UTF8>> its_name,
-                  ResourceTransfer<SharedUString<UTF8>> its_value) noexcept
-            : name(std::move(its_name)), value(std::move(its_value)) {}
+        UStringRef<UTF8> name;
+        UStringRef<UTF8> value;
     };
-    using Iterator = std::vector<Attribute>::const_iterator;
 
-    // Makes room for that many.
-    void Reserve(std::size_t count) { attributes_.reserve(count); }
+    // Walks the attributes in the order of their names.
+    class Iterator {
+      public:
+        Attribute operator*() const { return {{Name(), Value()}, {Value(), Value() + Sizes()[1]}}; }
+        Iterator& operator++() {
+            at_ = Value() + Sizes()[1];
+            return *this;
+        }
+        bool operator==(Iterator const&) const = default;
+
+      private:
+        friend class XMLAttributes;
+        explicit Iterator(unsigned char const* at) : at_(at) {}
+        unsigned char const* Name() const { return at_ + sizeof(std::array<std::size_t, 2>); }
+        unsigned char const* Value() const { return Name() + Sizes()[0]; }
+        // Of the name and of the value, both of which follow.
+        std::array<std::size_t, 2> Sizes() const {
+            std::array<std::size_t, 2> sizes;
+            std::memcpy(&sizes, at_, sizeof(sizes));
+            return sizes;
+        }
+
+        unsigned char const* at_;
+    };
+
+    XMLAttributes() = default;
+    // Of these, which stand in ascending order of their names. Of equal names the first counts.
+    explicit XMLAttributes(ConstArrayOf<XMLAttributePair const*> sorted);
 
     // Adds an attribute, unless there is one of that name.
-    void Add(ResourceTransfer<SharedUString<UTF8>> name, ResourceTransfer<SharedUString<UTF8>> value) {
-        auto at = LowerBound(name);
-        if (at == end())
-            attributes_.emplace_back(std::move(name), std::move(value));
-        else if (!(at->name == name))
-            attributes_.emplace(at, std::move(name), std::move(value));
-    }
+    void Add(UStringRef<UTF8> name, UStringRef<UTF8> value);
 
-    // The attribute of that name, or end().
-    Iterator Find(UStringRef<UTF8> name) const {
-        auto at = LowerBound(name);
-        return at != end() && at->name == name ? at : end();
-    }
+    // The value of that name.
+    NullOr<UStringRef<UTF8>> Find(UStringRef<UTF8> name) const;
 
-    Iterator begin() const { return attributes_.begin(); }
-    Iterator end() const { return attributes_.end(); }
-    std::size_t size() const { return attributes_.size(); }
+    Iterator begin() const { return Iterator(block_.data()); }
+    Iterator end() const { return Iterator(block_.data() + block_.size()); }
 
   private:
-    // The first place whose name is not below the given one; the end, mostly, while a list is made.
-    Iterator LowerBound(UStringRef<UTF8> name) const {
-        if (attributes_.empty() || attributes_.back().name.Ref() < name) return end();
-        return std::partition_point(begin(), end(), [&](auto& each) { return each.name.Ref() < name; });
-    }
+    // The first attribute that does not stand before the name.
+    Iterator LowerBound(UStringRef<UTF8> name) const;
 
-    std::vector<Attribute> attributes_;
+    std::vector<unsigned char> block_;
 };

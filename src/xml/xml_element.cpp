@@ -44,10 +44,10 @@ XMLElement const& XMLElement::GetChildElement(UStringRef<UTF8> name) const {
     return *child;
 }
 
-SharedUString<UTF8> const& XMLElement::GetAttribute(UStringRef<UTF8> name) const {
-    auto at = attributes_.Find(name);
-    if (at == attributes_.end()) throw NoSuchAttribute();
-    return at->value;
+UStringRef<UTF8> XMLElement::GetAttribute(UStringRef<UTF8> name) const {
+    auto value = attributes_.Find(name);
+    if (!value) throw NoSuchAttribute();
+    return *value;
 }
 
 XMLElement& XMLElement::AddChildElement(ResourceTransfer<XMLElement> child) {

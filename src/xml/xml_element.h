@@ -4,6 +4,7 @@
 
 #include "foundation/base/debuggable_exception.h"
 #include "foundation/base/null_or.h"
+#include "foundation/text/shared_ustring.h"
 #include "xml/xml_attributes.h"
 
 class NoSuchChildElement : public DebuggableException {};
@@ -41,9 +42,9 @@ class XMLElement {
     NullOrConstRef<XMLElement> FindChildElement(UStringRef<UTF8> name) const;
     XMLElement const& GetChildElement(UStringRef<UTF8> name) const;
 
-    bool HasAttribute(UStringRef<UTF8> name) const { return attributes_.Find(name) != attributes_.end(); }
+    bool HasAttribute(UStringRef<UTF8> name) const { return !attributes_.Find(name).IsNull(); }
     // Throws NoSuchAttribute.
-    SharedUString<UTF8> const& GetAttribute(UStringRef<UTF8> name) const;
+    UStringRef<UTF8> GetAttribute(UStringRef<UTF8> name) const;
 
     // Adds a copy, or the element itself, as the last child and returns the child. Adding moves the earlier children,
     // not what is below them.

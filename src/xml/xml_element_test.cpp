@@ -16,16 +16,21 @@ TEST(XMLElement, FindsTheFirstChildOfAName) {
     EXPECT_FALSE(parent.FindChildElement("d"));
 }
 
-TEST(XMLElement, LooksAttributesUpByTheirBytes) {
+TEST(XMLElement, KeepsAttributesInTheOrderOfTheirBytes) {
     XMLAttributes attributes;
-    for (auto name : {"b", "a", "c", "a"})
-        attributes.Add(SharedUString<UTF8>(UStringRef<UTF8>(name)), SharedUString<UTF8>(UStringRef<UTF8>(name)));
+    for (auto name : {"b", "", "\xC3", "aa", "a", "b"}) attributes.Add(name, attributes.Find(name) ? "again" : name);
     XMLElement element("e", attributes);
-    EXPECT_TRUE(element.HasAttribute("a"));
-    EXPECT_EQ(element.GetAttribute("a"), UStringRef<UTF8>("a"));
-    EXPECT_EQ(element.Attributes().size(), 3u);
-    EXPECT_FALSE(element.HasAttribute("A"));
-    EXPECT_THROW(element.GetAttribute("A"), NoSuchAttribute);
+    std::string names;
+    for (auto [name, value] : element.Attributes()) {
+        names += std::string(name.AsStringView()) + ",";
+        EXPECT_EQ(value, name);
+        EXPECT_EQ(element.GetAttribute(name), value);
+    }
+    EXPECT_EQ(names, ",a,aa,b,\xC3,");
+    for (auto absent : {"A", "ab", "c", "\xC4"}) {
+        EXPECT_FALSE(element.HasAttribute(absent));
+        EXPECT_THROW(element.GetAttribute(absent), NoSuchAttribute);
+    }
 }
 
 TEST(XMLElement, CopiesTheWholeTreeEvenIntoItself) {

@@ -7,7 +7,7 @@ namespace {
 
 void WriteBeginning(XMLWriter& writer, XMLElement const& element) {
     writer.BeginElement(element.Name());
-    for (auto& [name, value] : element.Attributes()) writer.AddAttribute(name, value);
+    for (auto [name, value] : element.Attributes()) writer.AddAttribute(name, value);
     writer.WriteString(element.GetValue());
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/text/auto_ustring.h"
 #include "xml/xml_attributes.h"
 
 // What a SAXParser reports, in document order; the default operations do nothing. The text is borrowed for the call
