@@ -3,6 +3,7 @@
 #include <benchmark/benchmark.h>
 #include <expat.h>
 
+#include <algorithm>
 #include <map>
 #include <pugixml.hpp>
 
@@ -207,10 +208,18 @@ void WritePugi(benchmark::State& state) {
     state.SetBytesProcessed(state.iterations() * static_cast<long long>(written));
 }
 
+// On a machine with other work the least of several repetitions says most.
+double Least(std::vector<double> const& times) {
+    return *std::min_element(times.begin(), times.end());
+}
+
 [[maybe_unused]] bool const m_registered = [] {
-    for (auto& each : kReadings) benchmark::RegisterBenchmark(each.name, Read, each)->Unit(benchmark::kMillisecond);
-    benchmark::RegisterBenchmark("Write/Elements/own", WriteOwn)->Unit(benchmark::kMillisecond);
-    benchmark::RegisterBenchmark("Write/Elements/pugixml", WritePugi)->Unit(benchmark::kMillisecond);
+    auto finish = [](benchmark::internal::Benchmark* added) {
+        added->Unit(benchmark::kMillisecond)->ComputeStatistics("least", Least);
+    };
+    for (auto& each : kReadings) finish(benchmark::RegisterBenchmark(each.name, Read, each));
+    finish(benchmark::RegisterBenchmark("Write/Elements/own", WriteOwn));
+    finish(benchmark::RegisterBenchmark("Write/Elements/pugixml", WritePugi));
     return true;
 }();
 
