@@ -12,3 +12,17 @@ if(SANITIZE)
   add_compile_options(-fsanitize=${SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
   add_link_options(-fsanitize=${SANITIZE})
 endif()
+
+include(CheckPIESupported)
+check_pie_supported()
+if(HARDENED)
+  add_compile_options(-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2 -fstack-protector-strong -fstack-clash-protection -Wformat
+                      -Werror=format-security)
+  add_link_options(-Wl,-z,relro,-z,now)
+  # Not every processor has it.
+  include(CheckCXXCompilerFlag)
+  check_cxx_compiler_flag(-fcf-protection HAS_CONTROL_FLOW_PROTECTION)
+  if(HAS_CONTROL_FLOW_PROTECTION)
+    add_compile_options(-fcf-protection)
+  endif()
+endif()

@@ -1,7 +1,7 @@
 #!/bin/bash
 # Makes a Debian 12 machine able to build, test and show the program: installs the packages it lacks, and only those.
 #
-#     tools/setup.sh [--check]      # --check: also what the continuous checks need
+#     tools/setup.sh [--check | --package]      # also what the continuous checks or the Debian package need
 set -euo pipefail
 
 packages=(
@@ -12,7 +12,11 @@ packages=(
     python3                                                   # the translators' tools
     libbenchmark-dev libexpat1-dev libpugixml-dev             # its benchmarks
 )
-[ "${1-}" != --check ] || packages+=(clang-format)
+packaging=(dpkg-dev file)
+case ${1-} in
+    --check) packages+=(clang-format "${packaging[@]}") ;;
+    --package) packages+=("${packaging[@]}") ;;
+esac
 
 missing=()
 for package in "${packages[@]}"; do
