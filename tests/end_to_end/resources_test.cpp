@@ -1,0 +1,29 @@
+#include "tests/support/program_test.h"
+
+#include <X11/Xutil.h>
+
+class Resources : public ProgramTest, public ::testing::WithParamInterface<char const*> {
+  protected:
+    // The colour of the dialog's edge, as red, green and blue.
+    unsigned long Background() {
+        Window const window = Screen().WaitForWindow("ActionRequestDialog", std::chrono::seconds(5));
+        Screen().WaitUntilDrawn(window);
+        ::Display* display = XOpenDisplay(Display().Name().c_str());
+        XImage* edge = XGetImage(display, window, 1, 1, 1, 1, AllPlanes, ZPixmap);
+        unsigned long const colour = XGetPixel(edge, 0, 0) & 0xffffff;
+        XDestroyImage(edge);
+        XCloseDisplay(display);
+        return colour;
+    }
+};
+
+// In a place where the toolkit looks for users' resources, and in the one for all users.
+TEST_P(Resources, OfTheInstalledExampleTakeEffect) {
+    auto const file = Directory() / "XQENClientUI";
+    std::filesystem::copy_file(EXAMPLE_RESOURCES, file);
+    Start({{"HOME", Directory()}, {GetParam(), GetParam() == std::string("XENVIRONMENT") ? file : Directory() / "%N"}});
+    Play("initialize\nrequest id=1 title=One");
+    EXPECT_EQ(Background(), 0xeceff1u);
+}
+
+INSTANTIATE_TEST_SUITE_P(Place, Resources, ::testing::Values("XENVIRONMENT", "XUSERFILESEARCHPATH", "XFILESEARCHPATH"));
