@@ -7,8 +7,7 @@
 
 // A small, forgiving XML parser: a state machine over bytes that reports to a handler and rejects nothing.
 //
-// Only what the two ends of the conversation write is read in full. Everything else has one fixed outcome, on which
-// the client's documents have come to rely:
+// What the two ends of the conversation write is read in full. Everything else has one fixed outcome, which is meant:
 // - only the space separates; a tab or a line feed inside a tag is part of a name;
 // - "<a/>" is an end tag, and "/" after an attribute begins another attribute's name;
 // - the first hyphen of a tag name is dropped, the second begins a comment, which ends at the first ">" after two or
