@@ -14,7 +14,7 @@ packages=(
 )
 packaging=(dpkg-dev file)
 case ${1-} in
-    --check) packages+=(clang-format "${packaging[@]}") ;;
+    --check) packages+=(clang-format clang libclang-rt-14-dev "${packaging[@]}") ;;
     --package) packages+=("${packaging[@]}") ;;
 esac
 

@@ -1,0 +1,25 @@
+// What reads as a time or a date writes and reads back to the field, and so does every instant.
+#include "foundation/time/text_to_time.h"
+#include "foundation/time/time_to_text.h"
+#include "messages/xml_date_time.h"
+#include "tests/fuzz/fuzz.h"
+
+static void RequireThatItComesBack(TimeObject const& time) {
+    auto const back = TextToTime(TimeToText(time));
+    Require(time.Valid() && back.Date() == time.Date() && back.Time() == time.Time() && back.Zone() == time.Zone());
+}
+
+void Fuzz(std::string_view input) {
+    TimeObject time;
+    DateRecord date;
+    Instant instant;
+    if (Succeeds([&] { time = TextToTime(Text(input)); })) RequireThatItComesBack(time);
+    if (Succeeds([&] { date = XMLDateToDateRecord(Text(input)); }))
+        Require(DateRecordToXMLDate(date).AsStringView() == input);
+    bool const read = Succeeds([&] { instant = XMLDateTimeToInstant(Text(input)); });
+    if (!read) instant = Instant(TakeInteger<long long>(input));
+    RequireThatItComesBack(TimeObject(instant, TimeZone(TakeInteger<short>(input) % 6'000 * 60)));
+    long long const seconds = instant.Microseconds() / TimeInterval::kSecond;
+    if (seconds < 2 * TimeInterval::kDay / TimeInterval::kSecond - TimeObject::kSecondsBefore1970) return;
+    Require(XMLDateTimeToInstant(InstantToXMLDateTime(instant)) == Instant(0) + TimeInterval::Seconds(seconds));
+}
