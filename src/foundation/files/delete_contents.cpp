@@ -120,6 +120,7 @@ class ContentsDeleter {
 }  // namespace
 
 void DeleteContents(FileLocation const& location) {
+    if (!location.Exists()) ThrowFileError(location, ENOENT);
     ContentsDeleter(location).Run();
 }
 

@@ -95,7 +95,7 @@ TEST_F(FileOperationsTest, DeletingEmptiesTheDirectoryAndNothingElse) {
 TEST_F(FileOperationsTest, DeletingRefusesWhatIsNoDirectoryToEmpty) {
     directory_.Write("/file", "kept");
     EXPECT_NO_THROW(ForceDeleteContents(At("/missing")));
-    EXPECT_THROW(DeleteContents(At("/missing")), FileNotFoundError);
+    for (auto missing : {"/missing", "/file/below"}) EXPECT_THROW(DeleteContents(At(missing)), FileNotFoundError);
     EXPECT_THROW(ForceDeleteContents(At("/file")), DirectoryNotFoundError);
     EXPECT_THROW(ForceDeleteContents(FileLocation()), EmptyFileLocationError);
     EXPECT_THROW(DeleteContents(FileLocation()), EmptyFileLocationError);
