@@ -51,8 +51,10 @@ UStringRef<UTF8> XMLElement::GetAttribute(UStringRef<UTF8> name) const {
 }
 
 XMLElement& XMLElement::AddChildElement(ResourceTransfer<XMLElement> child) {
+    // By way of a local, because the child may stand in the list that grows.
+    auto taken = std::move(child);
     MakeRoomForChild();
-    return children_.emplace_back(std::move(child));
+    return children_.emplace_back(std::move(taken));
 }
 
 XMLElement& XMLElement::AddChildElement(ResourceTransfer<SharedUString<UTF8>> name,

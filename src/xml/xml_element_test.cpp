@@ -43,6 +43,9 @@ TEST(XMLElement, CopiesTheWholeTreeEvenIntoItself) {
     EXPECT_TRUE(parent.GetValue().empty());
     parent = parent.Children()[1];
     EXPECT_EQ(parent.Children().size(), 1u);
+    auto list = Element("l");
+    list.AddChildElement(std::move(list.AddChildElement(Element("c"))));
+    EXPECT_EQ(list.Children()[1].Name(), UStringRef<UTF8>("c"));
 }
 
 }  // namespace
