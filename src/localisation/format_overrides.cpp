@@ -2,21 +2,17 @@
 
 #include <algorithm>
 
+#include "foundation/text/lines.h"
+
 FormatOverrideSet::FormatOverrideSet(UStringRef<UTF8> text) {
-    auto isLineEnd = [](unsigned char byte) { return byte == '\r' || byte == '\n'; };
-    for (auto line = text.begin(); line != text.end();) {
-        auto lineEnd = std::find_if(line, text.end(), isLineEnd);
-        AddLine({line, lineEnd});
-        line = lineEnd == text.end() ? lineEnd : lineEnd + 1;
-    }
+    ForEachLine(text.AsData(), [this](ConstData line) { AddLine(line.AsStringView()); });
     std::sort(sorted_.begin(), sorted_.end());
 }
 
-void FormatOverrideSet::AddLine(UStringRef<UTF8> line) {
-    auto bytes = line.AsStringView();
-    auto firstTab = bytes.find('\t');
-    if (firstTab == bytes.npos || firstTab == 0) return;
-    sorted_.emplace_back(bytes.substr(0, firstTab), bytes.substr(bytes.rfind('\t') + 1));
+void FormatOverrideSet::AddLine(std::string_view line) {
+    auto firstTab = line.find('\t');
+    if (firstTab == line.npos || firstTab == 0) return;
+    sorted_.emplace_back(line.substr(0, firstTab), line.substr(line.rfind('\t') + 1));
 }
 
 FormatBinding const* FormatOverrideSet::Find(UStringRef<UTF8> key) const {

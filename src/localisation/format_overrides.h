@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string_view>
 #include <vector>
 
 #include "foundation/base/debuggable_exception.h"
@@ -30,7 +31,7 @@ class FormatOverrideSet {
     UStringRef<UTF8> GetOverride(UStringRef<UTF8> key) const;
 
   private:
-    void AddLine(UStringRef<UTF8> line);
+    void AddLine(std::string_view line);
     // Null when there is none.
     FormatBinding const* Find(UStringRef<UTF8> key) const;
 

@@ -16,8 +16,6 @@ struct UFormatSegment {
 // Throws BadFormatStringError on reaching a "{" without a "}" after it.
 class UFormatIterator {
   public:
-    // The end of every format string without text.
-    UFormatIterator() = default;
     // At the first segment.
     explicit UFormatIterator(UStringRef<UTF8> format);
     // Behind the last segment.
@@ -37,6 +35,8 @@ class UFormatIterator {
     bool operator==(UFormatIterator const& other) const { return current_ == other.current_; }
 
   private:
+    UFormatIterator() = default;
+
     using Position = UTF8::Unit const*;
     Position current_ = nullptr;
     Position next_ = nullptr;
