@@ -122,16 +122,6 @@ TEST(UnixPipe, AFrameSplitAnywhereArrivesOnce) {
     EXPECT_EQ(client.Received(3).size(), 3u);
 }
 
-TEST(UnixPipe, TwoMebibytesAreAcceptedAndOneByteMoreKills) {
-    RunningConnection client;
-    std::string const longest(0x200000, 'x');
-    client.Deliver(Frame(longest));
-    EXPECT_THAT(client.Received(1), ElementsAre(longest));
-    EXPECT_FALSE(client.unix_pipe->Killed());
-    client.Deliver(Header(0x200001));
-    EXPECT_TRUE(client.IsKilled());
-}
-
 TEST(UnixPipe, AClientThatLeavesInsideAFrameKillsAndNothingPartialArrives) {
     std::string const bytes = Frame("whole") + Frame("cut");
     for (std::size_t size = Frame("whole").size(); size < bytes.size(); ++size) {
@@ -263,17 +253,6 @@ TEST(UnixPipe, AClientMayLeaveAtAnyMoment) {
 TEST(UnixPipe, TheProcessMayExitBeforeItsThreadsAndKeepsItsStandardStreams) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     EXPECT_EXIT(ExitBeforeTheThreads(), testing::ExitedWithCode(0), "");
-}
-
-TEST(UIMessageQueue, HandsEverythingOverAtOnce) {
-    UIMessageQueue queue;
-    for (char const* text : {"a", "b"}) queue.WriteMessage(UIMessage(text, 7));
-    FiFoQueue<UIMessage> out;
-    queue.ReadMessages(out);
-    EXPECT_TRUE(queue.IsEmpty());
-    EXPECT_EQ(out.TakeFront().Text().AsStringView(), "a");
-    EXPECT_EQ(out.TakeFront().Kind(), 7u);
-    EXPECT_TRUE(out.IsEmpty());
 }
 
 }  // namespace

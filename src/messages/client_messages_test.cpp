@@ -64,32 +64,16 @@ TEST(ActionRequestTest, MalformedValuesThrow) {
         EXPECT_ANY_THROW(Read<ActionRequest>("<Deadline>" + std::string(deadline) + "</Deadline>")) << deadline;
 }
 
-TEST(RemoveRequestTest, OnlyTheExactTypeNamesCount) {
-    struct {
-        char const* children;
-        RemoveType type;
-    } const cases[] = {{"", RemoveType::All},
-                       {"<RemoveType>Action</RemoveType>", RemoveType::Action},
-                       {"<RemoveType>Offer</RemoveType>", RemoveType::Offer},
-                       {"<RemoveType>Message</RemoveType>", RemoveType::Message},
-                       {"<RemoveType>All</RemoveType>", RemoveType::All},
-                       {"<RemoveType>action</RemoveType>", RemoveType::All},
-                       {"<RemoveType> Action</RemoveType>", RemoveType::All}};
-    for (auto const& c : cases) EXPECT_EQ(ReadRemoval(c.children).remove_type, c.type) << c.children;
-}
-
-TEST(RemoveRequestTest, WhatIsWrittenReadsBack) {
-    for (int type = 0; type <= 3; ++type) {
+TEST(RemoveRequestTest, OnlyTheExactTypeNamesCountAndAreWritten) {
+    for (auto type : {"Action", "Offer", "Message", "All"}) {
+        auto const children = "<RemoveType>" + std::string(type) + "</RemoveType><ID>77</ID>";
         UStringBuilder<UTF8> text;
-        XMLWriter writer(text, XMLFormatStyle::Indented);
-        writer.BeginElement("RemoveRequest");
-        XMLSave(writer, RemoveRequest{77, static_cast<RemoveType>(type)});
-        writer.EndDocument();
-        RemoveRequest back;
-        XMLLoad(*SimpleXML::Parse(text.Ref()), back);
-        EXPECT_EQ(back.id, 77u);
-        EXPECT_EQ(static_cast<int>(back.remove_type), type);
+        XMLWriter writer(text, XMLFormatStyle::Compact);
+        XMLSave(writer, ReadRemoval(children));
+        EXPECT_EQ(text.Ref().AsStringView(), children);
     }
+    for (auto other : {"", "<RemoveType>action</RemoveType>", "<RemoveType> Action</RemoveType>"})
+        EXPECT_EQ(ReadRemoval(other).remove_type, RemoveType::All) << other;
 }
 
 TEST(MessageRequestTest, ATimeoutIsAnOptionalDuration) {

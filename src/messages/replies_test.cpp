@@ -28,20 +28,13 @@ TEST(RepliesTest, EveryDocumentIsExact) {
 }
 
 TEST(RepliesTest, DebugStringsFollowTheTextRule) {
-    struct {
-        char const* text;
-        char const* written;
-    } const cases[] = {
-        {"MessageDialog", "MessageDialog"}, {"a<b", "<![CDATA[a<b]]>"}, {"a&b]]>", "a&amp;b]]&gt;"}, {"", ""}};
-    for (auto const& c : cases) {
-        ClientUIErrorMessage error(ClientUIErrorMessage::ErrorCode::DialogNotShown, c.text);
-        EXPECT_EQ(Written(error), kDeclaration +
-                                      std::string("<ClientToUI>\n\t<ClientUIErrorMessage>\n\t\t"
-                                                  "<DebugString>") +
-                                      c.written +
-                                      "</DebugString>\n\t\t<ErrorCode>2</ErrorCode>\n\t</ClientUIErrorMessage>\n"
-                                      "</ClientToUI>");
-    }
+    using Case = std::pair<char const*, std::string>;
+    for (auto const& [text, written] :
+         {Case{"MessageDialog", "MessageDialog"}, {"a<b", "<![CDATA[a<b]]>"}, {"a&b]]>", "a&amp;b]]&gt;"}, {"", ""}})
+        EXPECT_EQ(Written(ClientUIErrorMessage(ClientUIErrorMessage::ErrorCode::DialogNotShown, text)),
+                  kDeclaration + ("<ClientToUI>\n\t<ClientUIErrorMessage>\n\t\t<DebugString>" + written +
+                                  "</DebugString>\n\t\t<ErrorCode>2</ErrorCode>\n\t</ClientUIErrorMessage>\n"
+                                  "</ClientToUI>"));
 }
 
 }  // namespace

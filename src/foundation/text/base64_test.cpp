@@ -3,23 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <random>
-#include <vector>
-
-#include "foundation/text/lines.h"
+#include <utility>
 
 namespace {
-
-Stringy Encoded(Stringy const& bytes) {
-    auto alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
-    Stringy text;
-    unsigned bits = 0, waiting = 0;
-    for (char byte : bytes) {
-        bits = bits << 8 | static_cast<unsigned char>(byte);
-        for (waiting += 8; waiting >= 6; waiting -= 6) text += alphabet[bits >> (waiting - 6) & 63];
-    }
-    if (waiting) text += alphabet[bits << (6 - waiting) & 63];
-    return text;
-}
 
 TEST(Base64, OnlyTheAlphabetCountsAndLeftoverBitsAreDropped) {
     for (auto text : {"TWFu", "T\r\nW\tF u", "=T=W=F=u=", "-TW_Fu", "\xFF\x80TWFu", "TWFuT", "TWFu===="})
@@ -34,28 +20,19 @@ TEST(Base64, AnyBytesComeBackHoweverTheTextIsCutAndBroken) {
     std::mt19937 random(1);
     Stringy bytes(5000, 0);
     for (char& byte : bytes) byte = static_cast<char>(random());
-    Stringy text = Encoded(bytes);
+    Stringy text = EncodeBase64(bytes);
     for (std::size_t at = 0; at < text.size(); at += random() % 90) text.insert(at, random() % 2 ? "\r\n" : "\n");
     EXPECT_EQ(DecodeBase64(text), bytes);
 
     Base64Decoder decoder;
     Stringy decoded;
-    ForEachLine(text, [&](ConstData line) { decoder.Decode(line, decoded); });
+    for (char character : text) decoder.Decode(std::string_view(&character, 1), decoded);
     EXPECT_EQ(decoded, bytes);
 }
 
-TEST(Lines, EachEndOfLineEndsOneAndTheLastNeedsNone) {
-    struct {
-        char const* text;
-        std::vector<Stringy> lines;
-    } const cases[] = {
-        {"", {}},    {"a", {"a"}}, {"a\n", {"a"}}, {"a\r\nb", {"a", "", "b"}}, {"\n\na\rb\n", {"", "", "a", "b"}},
-        {"\r", {""}}};
-    for (auto const& [text, lines] : cases) {
-        std::vector<Stringy> found;
-        ForEachLine(text, [&](ConstData line) { found.emplace_back(line.AsStringView()); });
-        EXPECT_EQ(found, lines) << text;
-    }
+TEST(Base64, IsPaddedToWholeGroups) {
+    for (auto [bytes, text] : {std::pair("", ""), {"f", "Zg=="}, {"fo", "Zm8="}, {"foo", "Zm9v"}, {"\xFF\xEF", "/+8="}})
+        EXPECT_EQ(EncodeBase64(bytes), text);
 }
 
 }  // namespace

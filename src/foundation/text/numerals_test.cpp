@@ -120,22 +120,18 @@ TEST(Numeral, RendersAnyIntegerInAnyBase) {
 }
 
 TEST(Ascii, ClassesEndWhereAsciiSaysAndCaseIsAsciiOnly) {
-    auto members = [](bool (*in_class)(unsigned char)) {
+    Stringy const neighbours = "/0:9;@A[FGZ^_`afgz{\x80\xC1\xE1\xFF";
+    auto members = [&](bool (*in_class)(unsigned char)) {
         Stringy found;
-        for (int byte = 0; byte < 256; ++byte)
-            if (in_class(static_cast<unsigned char>(byte))) found += static_cast<char>(byte);
+        std::ranges::copy_if(neighbours, std::back_inserter(found), in_class);
         return found;
     };
-    Stringy upper = "ABCDEFGHIJKLMNOPQRSTUVWXYZ", lower = "abcdefghijklmnopqrstuvwxyz", digits = "0123456789";
-    EXPECT_EQ(members(Ascii::HexDigit), digits + "ABCDEFabcdef");
-    EXPECT_EQ(members(Ascii::Letter), upper + lower);
-    EXPECT_EQ(members(Ascii::Alphanumeric), digits + upper + lower);
-    EXPECT_EQ(members(Ascii::Alphanumeric_), digits + upper + "_" + lower);
+    EXPECT_EQ(members(Ascii::HexDigit), "09AFaf");
+    EXPECT_EQ(members(Ascii::Letter), "AFGZafgz");
+    EXPECT_EQ(members(Ascii::Alphanumeric_), "09AFGZ_afgz");
     EXPECT_TRUE(Ascii::EqualIgnoringCase("_Brand.XLAT", "_brand.xlat"));
-    EXPECT_TRUE(Ascii::EqualIgnoringCase("", ConstData()));
-    EXPECT_FALSE(Ascii::EqualIgnoringCase("a", "ab"));
-    EXPECT_FALSE(Ascii::EqualIgnoringCase("@[", "`{"));
-    EXPECT_FALSE(Ascii::EqualIgnoringCase("\xC3\x84", "\xC3\xA4"));
+    for (auto [one, other] : {std::pair("a", "ab"), {"@[", "`{"}, {"\xC3\x84", "\xC3\xA4"}})
+        EXPECT_FALSE(Ascii::EqualIgnoringCase(one, other));
 }
 
 }  // namespace
