@@ -4,7 +4,6 @@
 
 #include <cstdint>
 #include <limits>
-#include <random>
 #include <string>
 
 #include "foundation/text/ascii.h"
@@ -84,18 +83,6 @@ TEST(Numerals, WritersPadWithZerosUpToTheirCapacity) {
     EXPECT_THROW(MakeAsciiDecimalNumeral(1, 4294967295u), ConstDataCapacityExceeded);
     EXPECT_THROW(MakeAsciiSignedDecimalNumeral64(-1, 21), ConstDataCapacityExceeded);
     EXPECT_THROW(MakeAsciiHexNumeral64(1, 17), ConstDataCapacityExceeded);
-}
-
-TEST(Numerals, WhatIsWrittenReadsBack) {
-    std::mt19937_64 random(1);
-    for (int round = 0; round < 20000; ++round) {
-        unsigned long long value = random() >> (random() % 64);
-        auto negated = static_cast<long long>(0 - value);
-        ASSERT_EQ(ReadAsciiDecimalNumeral64(MakeAsciiDecimalNumeral64(value, 1)), value);
-        ASSERT_EQ(ReadAsciiHexNumeral64(MakeAsciiHexNumeral64(value, 1)), value);
-        ASSERT_EQ(ReadAsciiSignedDecimalNumeral64(MakeAsciiSignedDecimalNumeral64(negated, 1)), negated);
-        ASSERT_EQ(ReadAsciiHexNumeral64(Numeral(value, 16)), value);
-    }
 }
 
 TEST(Numeral, RendersAnyIntegerInAnyBase) {
