@@ -14,6 +14,7 @@ endfunction()
 
 add_test_locale(C.UTF-8 C UTF-8)
 add_test_locale(de_DE.UTF-8 de_DE UTF-8)
+add_test_locale(ja_JP.UTF-8 ja_JP UTF-8)
 add_test_locale(fr_CA.ISO-8859-1 fr_CA ISO-8859-1)
 # Known to the C library, but not to the X library.
 add_test_locale(de_XX.UTF-8 de_DE UTF-8)

@@ -29,6 +29,12 @@ PipeEnds MakePipe() {
     return {Descriptor(ends[0]), Descriptor(ends[1])};
 }
 
+bool AddressesCanBeFixed() {
+    int const now = personality(0xffffffff);
+    return personality(static_cast<unsigned long>(now) | ADDR_NO_RANDOMIZE) != -1 &&
+           personality(static_cast<unsigned long>(now)) != -1;
+}
+
 namespace {
 
 [[noreturn]] void Execute(Launch const& launch, int input, int output) {

@@ -43,6 +43,9 @@ struct Launch {
     bool fixed_addresses = false;  // without address space randomisation, where the system allows that
 };
 
+// Whether it does allow it.
+bool AddressesCanBeFixed();
+
 // A running program, with the default signal dispositions whatever the caller's are. It outlives neither the object nor
 // the thread that started it: both ends kill it.
 class ChildProcess {

@@ -24,9 +24,10 @@ Display* Open(std::string const& name) {
 DisplayDriver::DisplayDriver(std::string const& name)
     : display_(Open(name)), root_(DefaultRootWindow(display_.get())), editres_(display_.get()) {}
 
-Window DisplayDriver::WaitForWindow(std::string const& name, Milliseconds limit) {
+Window DisplayDriver::WaitForWindow(std::string const& name, Milliseconds limit, Window other) {
     Window window = None;
-    if (WaitUntil(limit, [&] { return IsOnScreen(display_.get(), window = FindWindow(name)); })) return window;
+    auto shown = [&] { return (window = FindWindow(name)) != other && IsOnScreen(display_.get(), window); };
+    if (WaitUntil(limit, shown)) return window;
     throw std::runtime_error("no window " + name);
 }
 
@@ -35,16 +36,43 @@ void DisplayDriver::WaitUntilGone(std::string const& name, Milliseconds limit) {
     throw std::runtime_error("the window " + name + " stays");
 }
 
-RemoteWidget DisplayDriver::FindWidget(Window shell, std::string const& path) {
+std::map<std::string, RemoteWidget> DisplayDriver::WidgetsByPath(Window shell) {
+    std::map<std::string, RemoteWidget> widgets;
     std::vector<std::string> parts;
     for (auto& widget : editres_.ReadTree(shell, patience)) {
         parts.resize(widget.ids.size() - 1);
         parts.push_back(widget.name.empty() ? widget.class_name : widget.name);
-        std::string here;
-        for (size_t part = 1; part < parts.size(); ++part) here += (part > 1 ? "." : "") + parts[part];
-        if (here == path) return widget;
+        std::string path;
+        for (size_t part = 1; part < parts.size(); ++part) path += (part > 1 ? "." : "") + parts[part];
+        widgets.emplace(path, widget);
     }
-    throw std::runtime_error("no widget " + path);
+    return widgets;
+}
+
+RemoteWidget DisplayDriver::FindWidget(Window shell, std::string const& path) {
+    auto widgets = WidgetsByPath(shell);
+    auto found = widgets.find(path);
+    if (found == widgets.end()) throw std::runtime_error("no widget " + path);
+    return found->second;
+}
+
+std::set<std::string> DisplayDriver::SensitiveControls(Window shell) {
+    std::set<std::string> sensitive;
+    for (auto const& [path, widget] : WidgetsByPath(shell)) {
+        if (widget.class_name != "List" && widget.class_name != "Command") continue;
+        if (editres_.ReadResource(shell, widget, "sensitive", patience) == "true") sensitive.insert(path);
+    }
+    return sensitive;
+}
+
+// A text's scroll bar is a child of its window, but no child of its widget.
+Window DisplayDriver::WindowOf(Window shell, std::string const& path) {
+    std::string_view const scroll_bar = ".vScrollbar";
+    if (!path.ends_with(scroll_bar)) return FindWidget(shell, path).window;
+    Window text = FindWidget(shell, path.substr(0, path.size() - scroll_bar.size())).window;
+    auto children = ChildrenOf(display_.get(), text);
+    if (children.empty()) throw std::runtime_error("no widget " + path);
+    return children.front();
 }
 
 std::string DisplayDriver::ReadResource(Window shell, std::string const& path, std::string const& resource) {
@@ -71,31 +99,81 @@ void DisplayDriver::PressAt(Window window, Area const& place) {
     XFlush(display_.get());
 }
 
-void DisplayDriver::Click(Window shell, std::string const& path) {
-    Window window = FindWidget(shell, path).window;
+void DisplayDriver::Press(Window shell, std::string const& path) {
+    Window window = WindowOf(shell, path);
     PressAt(window, VisibleArea(display_.get(), window));
 }
 
-void DisplayDriver::ClickLine(Window shell, std::string const& path, size_t line) {
-    Window window = FindWidget(shell, path).window;
-    std::vector<Area> lines;
-    auto drawn = [&] {
-        lines = FindTextLines(display_.get(), VisibleArea(display_.get(), window));
-        return lines.size() >= line;
-    };
-    if (line == 0 || !WaitUntil(patience, drawn)) throw std::runtime_error(path + " shows no such line");
-    PressAt(window, lines[line - 1]);
+// Its frame is drawn when the pointer comes in.
+bool DisplayDriver::AnswersPointer(Window shell, Window button) {
+    Area area = VisibleArea(display_.get(), button);
+    PointAt(ParentOf(display_.get(), button), area.x - 2, area.y);
+    WaitUntilDrawn(shell);
+    auto frame = PixelAt(display_.get(), area.x, area.y);
+    PointAt(button, area.MiddleX(), area.MiddleY());
+    WaitUntilDrawn(shell);
+    return PixelAt(display_.get(), area.x, area.y) != frame;
 }
 
-void DisplayDriver::Drag(Window shell, std::string const& path, double from, double to) {
-    Window window = FindWidget(shell, path).window;
+void DisplayDriver::Click(Window shell, std::string const& path) {
+    Window button = WindowOf(shell, path);
+    if (!WaitUntil(patience, [&] { return AnswersPointer(shell, button); })) {
+        throw std::runtime_error(path + " does not answer to the pointer");
+    }
+    PressAt(button, VisibleArea(display_.get(), button));
+}
+
+std::vector<TextLine> DisplayDriver::LinesOf(Window shell, Window list, size_t least) {
+    std::vector<TextLine> lines;
+    auto drawn = [&] {
+        WaitUntilDrawn(shell);
+        lines = FindTextLines(display_.get(), VisibleArea(display_.get(), list));
+        return lines.size() >= least;
+    };
+    if (least == 0 || !WaitUntil(patience, drawn)) throw std::runtime_error("no such line is on view");
+    return lines;
+}
+
+void DisplayDriver::SelectLine(Window shell, std::string const& path, size_t line) {
+    Window list = WindowOf(shell, path);
+    auto selected = [&] {
+        PressAt(list, LinesOf(shell, list, line)[line - 1].area);
+        return LinesOf(shell, list, line)[line - 1].IsHighlighted();
+    };
+    if (!WaitUntil(patience, selected)) throw std::runtime_error(path + " does not let its lines be selected");
+}
+
+bool DisplayDriver::LinesLookAlike(Window shell, std::string const& path, size_t one, size_t other) {
+    auto lines = LinesOf(shell, WindowOf(shell, path), std::max(one, other));
+    return LookAlike(display_.get(), lines[one - 1].area, lines[other - 1].area);
+}
+
+void DisplayDriver::Drag(Window shell, std::string const& path, double from, double to, unsigned button) {
+    Window window = WindowOf(shell, path);
     Area area = VisibleArea(display_.get(), window);
     auto at = [&](double fraction) { return area.y + static_cast<int>(fraction * (area.height - 1)); };
     PointAt(window, area.MiddleX(), at(from));
-    XTestFakeButtonEvent(display_.get(), Button1, True, CurrentTime);
+    XTestFakeButtonEvent(display_.get(), button, True, CurrentTime);
     XTestFakeMotionEvent(display_.get(), DefaultScreen(display_.get()), area.MiddleX(), at(to), CurrentTime);
-    XTestFakeButtonEvent(display_.get(), Button1, False, CurrentTime);
+    XTestFakeButtonEvent(display_.get(), button, False, CurrentTime);
     XFlush(display_.get());
+}
+
+std::string DisplayDriver::ReadText(Window shell, std::string const& path) {
+    Area bar = AreaOf(display_.get(), WindowOf(shell, path + ".vScrollbar"));
+    Window window = WindowOf(shell, path);
+    Area text = VisibleArea(display_.get(), window);
+    XStoreBytes(display_.get(), "", 0);
+    PointAt(window, bar.Right() + 3, text.y + 3);
+    XTestFakeButtonEvent(display_.get(), Button1, True, CurrentTime);
+    PointAt(window, text.Right() - 3, text.Bottom() - 3);
+    XTestFakeButtonEvent(display_.get(), Button1, False, CurrentTime);
+    WaitUntilDrawn(shell);
+    int size = 0;
+    char* bytes = XFetchBytes(display_.get(), &size);
+    std::string selected(bytes ? bytes : "", static_cast<size_t>(size));
+    XFree(bytes);
+    return selected;
 }
 
 bool DisplayDriver::IsManaged() {

@@ -3,10 +3,14 @@
 #include <X11/Xlib.h>
 
 #include <filesystem>
+#include <map>
 #include <memory>
+#include <set>
 #include <string>
+#include <vector>
 
 #include "tools/editres.h"
+#include "tools/pixels.h"
 #include "tools/windows.h"
 
 namespace tools {
@@ -14,7 +18,8 @@ namespace tools {
 // Sees and does on a display what a user, a window manager or another X program would.
 //
 // A top-level window goes by its title or by the name of its shell. A widget goes by its path below the shell, as in
-// "form.takeActions"; one without a name stands in it with its class, as in "form.viewport.List".
+// "form.takeActions"; one without a name stands in it with its class, as in "form.viewport.List". The scroll bar of a text
+// goes by the text's path and ".vScrollbar".
 //
 // What is not there, or not within a few seconds, throws std::runtime_error.
 class DisplayDriver {
@@ -24,8 +29,8 @@ class DisplayDriver {
 
     // The window of that name, mapped or not; 0 when there is none.
     Window FindWindow(std::string const& name) { return FindTopLevel(display_.get(), name); }
-    // Waits until it is on the screen, or until it no longer is.
-    Window WaitForWindow(std::string const& name, Milliseconds limit);
+    // Waits until it is on the screen and is not `other`, or until it no longer is.
+    Window WaitForWindow(std::string const& name, Milliseconds limit, Window other = None);
     void WaitUntilGone(std::string const& name, Milliseconds limit);
 
     std::string Title(Window window) { return TitleOf(display_.get(), window); }
@@ -33,14 +38,25 @@ class DisplayDriver {
     // See Editres::ReadResource for what that needs.
     std::string ReadResource(Window shell, std::string const& path, std::string const& resource);
 
+    // The paths of all lists and buttons that are sensitive.
+    std::set<std::string> SensitiveControls(Window shell);
+
+    // What a user selects by dragging the pointer over all that is visible of a text: nothing when it is insensitive.
+    std::string ReadText(Window shell, std::string const& path);
+
     // Returns once the program has handled every event sent before, and drawn what follows from them.
     void WaitUntilDrawn(Window shell);
 
-    // With the pointer: a click into the middle of what is visible of a widget, a click on its n-th visible line of text
-    // counted from 1, and a drag along its height between two fractions of it.
+    // With the pointer: a click into the middle of what is visible of a widget, and the same on a button once it answers
+    // to the pointer, as a sensitive one does by its frame.
+    void Press(Window shell, std::string const& path);
     void Click(Window shell, std::string const& path);
-    void ClickLine(Window shell, std::string const& path, size_t line);
-    void Drag(Window shell, std::string const& path, double from, double to);
+    // Clicks on the n-th visible line of a list, counted from 1, until it is highlighted.
+    void SelectLine(Window shell, std::string const& path, size_t line);
+    // Whether two of these lines look the same.
+    bool LinesLookAlike(Window shell, std::string const& path, size_t one, size_t other);
+    // A drag with some button along a widget's height between two fractions of it.
+    void Drag(Window shell, std::string const& path, double from, double to, unsigned button = Button1);
 
     // Closes the window as its close button does: through the window manager, or in its stead when none runs.
     void RequestClose(Window window);
@@ -55,7 +71,11 @@ class DisplayDriver {
         void operator()(Display* display) const { XCloseDisplay(display); }
     };
 
+    Window WindowOf(Window shell, std::string const& path);
+    std::map<std::string, RemoteWidget> WidgetsByPath(Window shell);
     RemoteWidget FindWidget(Window shell, std::string const& path);
+    std::vector<TextLine> LinesOf(Window shell, Window list, size_t least);
+    bool AnswersPointer(Window shell, Window button);
     void PointAt(Window window, int x, int y);
     void PressAt(Window window, Area const& place);
     Atom MakeAtom(char const* name) { return XInternAtom(display_.get(), name, False); }

@@ -53,22 +53,40 @@ void SaveScreenshot(Display* display, Area const& area, std::filesystem::path co
     }
 }
 
-std::vector<Area> FindTextLines(Display* display, Area const& area) {
+std::vector<TextLine> FindTextLines(Display* display, Area const& area) {
     auto image = Grab(display, area);
     unsigned long background = XGetPixel(image.get(), 0, 0);
-    std::vector<Area> lines;
+    std::vector<TextLine> lines;
     bool inside = false;
     for (int y = 0; y < image->height; ++y) {
-        int first = image->width, last = -1;
+        int first = image->width, last = -1, ink = 0;
         for (int x = 0; x < image->width; ++x) {
-            if (XGetPixel(image.get(), x, y) != background) first = std::min(first, x), last = x;
+            if (XGetPixel(image.get(), x, y) != background) first = std::min(first, x), last = x, ++ink;
         }
         bool text = last >= 0;
-        if (text && !inside) lines.push_back({area.x + first, area.y + y, 0, 0});
-        if (text) lines.back() = Unite(lines.back(), {area.x + first, area.y + y, last + 1 - first, 1});
+        if (text && !inside) lines.push_back({{area.x + first, area.y + y, 0, 0}});
+        if (text) {
+            lines.back().area = Unite(lines.back().area, {area.x + first, area.y + y, last + 1 - first, 1});
+            lines.back().ink += ink;
+        }
         inside = text;
     }
     return lines;
+}
+
+bool LookAlike(Display* display, Area const& one, Area const& other) {
+    auto first = Grab(display, one), second = Grab(display, other);
+    if (first->width != second->width || first->height != second->height) return false;
+    for (int y = 0; y < first->height; ++y) {
+        for (int x = 0; x < first->width; ++x) {
+            if (XGetPixel(first.get(), x, y) != XGetPixel(second.get(), x, y)) return false;
+        }
+    }
+    return true;
+}
+
+unsigned long PixelAt(Display* display, int x, int y) {
+    return XGetPixel(Grab(display, {x, y, 1, 1}).get(), 0, 0);
 }
 
 }  // namespace tools

@@ -24,8 +24,20 @@ Area Intersect(Area const& one, Area const& other);
 // the common kind with 32 bits for each pixel, blue first.
 void SaveScreenshot(Display* display, Area const& area, std::filesystem::path const& file);
 
-// The lines of text that the eye sees there, from top to bottom. Everything that differs from the area's top left pixel
-// counts as text.
-std::vector<Area> FindTextLines(Display* display, Area const& area);
+// A line of text on a plain background, or a highlighted one with the text left out of its bar.
+struct TextLine {
+    Area area;
+    int ink = 0;  // how many of its pixels are not background
+
+    bool IsHighlighted() const { return 2 * ink > area.width * area.height; }
+};
+
+// The lines that the eye sees there, from top to bottom. The area's top left pixel is background.
+std::vector<TextLine> FindTextLines(Display* display, Area const& area);
+
+// Whether the screen shows the same at both; false when they differ in size.
+bool LookAlike(Display* display, Area const& one, Area const& other);
+
+unsigned long PixelAt(Display* display, int x, int y);
 
 }  // namespace tools

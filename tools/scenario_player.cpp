@@ -1,5 +1,7 @@
 #include "tools/scenario_player.h"
 
+#include <fnmatch.h>
+
 #include <algorithm>
 #include <ctime>
 #include <fstream>
@@ -28,16 +30,31 @@ std::string Stamp() {
     return stamp.str();
 }
 
+bool Matches(std::string const& text, std::string const& pattern) {
+    return fnmatch(pattern.c_str(), text.c_str(), 0) == 0;
+}
+
+// Whether `text` is the instant that `span` from now was a moment ago.
+bool IsInstant(std::string const& text, std::string const& span) {
+    auto const instant = std::chrono::system_clock::now() + ParseSpan(span);
+    for (std::chrono::seconds ago(0); ago < std::chrono::seconds(10); ++ago) {
+        if (TimeText(instant - ago) == text) return true;
+    }
+    return false;
+}
+
+bool Fits(std::string const& text, std::string const& wanted) {
+    return wanted.starts_with('+') ? IsInstant(text, wanted) : Matches(text, wanted);
+}
+
 bool Holds(Answer const& answer, ScenarioLine const& line) {
     return std::all_of(line.values.begin(), line.values.end(), [&](auto const& value) {
         auto field = answer.fields.find(value.first);
-        return field != answer.fields.end() && field->second == value.second;
+        return field != answer.fields.end() && Fits(field->second, value.second);
     });
 }
 
 }  // namespace
-
-ScenarioPlayer::ScenarioPlayer(PlayerOptions options) : options_(std::move(options)), program_(options_.launch) {}
 
 void ScenarioPlayer::Play(std::string_view lines) {
     std::istringstream stream{std::string(lines)};
@@ -53,11 +70,13 @@ void ScenarioPlayer::Play(std::string_view lines) {
 
 void ScenarioPlayer::PlayLine(ScenarioLine const& line) {
     static std::map<std::string, Verb> const verbs = {
+        {"environment", &ScenarioPlayer::ChangeEnvironment},
         {"support-file", &ScenarioPlayer::AddSupportFile},
         {"raw", &ScenarioPlayer::SendRaw},
         {"expect", &ScenarioPlayer::Expect},
         {"wait", &ScenarioPlayer::WaitFor},
         {"click", &ScenarioPlayer::Click},
+        {"press", &ScenarioPlayer::Press},
         {"select", &ScenarioPlayer::Select},
         {"drag", &ScenarioPlayer::Drag},
         {"screenshot", &ScenarioPlayer::Screenshot},
@@ -82,15 +101,20 @@ std::string ScenarioPlayer::DocumentFor(std::string_view lines) const {
 
 void ScenarioPlayer::SendDocument(std::string const& document) {
     Log("client -> program", document);
-    if (!program_.SendFrame(document)) throw std::runtime_error("the program does not read");
+    if (!Program().SendFrame(document)) throw std::runtime_error("the program does not read");
 }
 
 std::string ScenarioPlayer::Receive(Milliseconds limit) {
-    auto text = program_.ReceiveFrame(limit);
-    if (!text) throw std::runtime_error("no answer; the program: " + program_.WaitForEnd(Milliseconds(0)));
+    auto text = Program().ReceiveFrame(limit);
+    if (!text) throw std::runtime_error("no answer; the program: " + Program().WaitForEnd(Milliseconds(0)));
     Log("program -> client", *text);
     last_answer_ = ReadAnswer(*text).Text();
     return *text;
+}
+
+ClientProcess& ScenarioPlayer::Program() {
+    if (!program_) program_.emplace(options_.launch);
+    return *program_;
 }
 
 DisplayDriver& ScenarioPlayer::Screen() {
@@ -100,6 +124,11 @@ DisplayDriver& ScenarioPlayer::Screen() {
         screen_ = std::make_unique<DisplayDriver>(own ? *display->second : "");
     }
     return *screen_;
+}
+
+void ScenarioPlayer::ChangeEnvironment(ScenarioLine const& line) {
+    if (program_) throw std::runtime_error("the program runs already");
+    for (auto const& [name, value] : line.values) options_.launch.environment[name] = value;
 }
 
 void ScenarioPlayer::AddSupportFile(ScenarioLine const& line) {
@@ -112,7 +141,7 @@ void ScenarioPlayer::SendRaw(ScenarioLine const& line) {
 
 void ScenarioPlayer::Expect(ScenarioLine const& line) {
     if (line.Word(1) == "exit") {
-        std::string ending = program_.WaitForEnd(LimitOf(line));
+        std::string ending = Program().WaitForEnd(LimitOf(line));
         if (ending != "exit " + line.Word(2)) throw std::runtime_error("the program: " + ending);
         return Log("program ended: " + ending, "");
     }
@@ -123,19 +152,46 @@ void ScenarioPlayer::Expect(ScenarioLine const& line) {
 
 void ScenarioPlayer::WaitFor(ScenarioLine const& line) {
     if (line.Word(1) == "widget") return WaitForResource(line, LimitOf(line));
+    if (line.Word(1) == "sensitive") return WaitForSensitivity(line, LimitOf(line));
+    if (line.Word(1) == "rows") return WaitForRows(line, LimitOf(line));
+    if (line.Word(1) == "text") return WaitForText(line, LimitOf(line));
     if (line.Has("gone")) return Screen().WaitUntilGone(line.Word(2), LimitOf(line));
-    window_ = Screen().WaitForWindow(line.Word(2), LimitOf(line));
+    window_ = Screen().WaitForWindow(line.Word(2), LimitOf(line), line.Has("again") ? window_ : Window(None));
 }
 
 void ScenarioPlayer::WaitForResource(ScenarioLine const& line, Milliseconds limit) {
+    if (!options_.reads_resources) return;
     for (auto const& value : line.values) {
         std::string found;
         auto fits = [&] {
             found = Screen().ReadResource(window_, line.Word(2), value.first);
-            return found == value.second;
+            return Matches(found, value.second);
         };
         if (!WaitUntil(limit, fits)) throw std::runtime_error("it is " + found);
     }
+}
+
+void ScenarioPlayer::WaitForSensitivity(ScenarioLine const& line, Milliseconds limit) {
+    if (!options_.reads_resources) return;
+    std::set<std::string> wanted(line.words.begin() + 2, std::find(line.words.begin(), line.words.end(), "within"));
+    if (WaitUntil(limit, [&] { return Screen().SensitiveControls(window_) == wanted; })) return;
+    std::string found;
+    for (auto const& path : Screen().SensitiveControls(window_)) found += " " + path;
+    throw std::runtime_error("it is" + found);
+}
+
+void ScenarioPlayer::WaitForRows(ScenarioLine const& line, Milliseconds limit) {
+    if (options_.interactive) return;
+    auto row = [&](size_t word) { return std::stoul(line.Word(word)); };
+    auto alike = [&] { return Screen().LinesLookAlike(window_, row_list, row(2), row(3)); };
+    if (!WaitUntil(limit, alike)) throw std::runtime_error("they differ");
+}
+
+void ScenarioPlayer::WaitForText(ScenarioLine const& line, Milliseconds limit) {
+    if (options_.interactive) return;
+    std::string found;
+    auto fits = [&] { return Matches(found = Screen().ReadText(window_, line.Word(2)), line.Word(3)); };
+    if (!WaitUntil(limit, fits)) throw std::runtime_error("it is " + found);
 }
 
 void ScenarioPlayer::Click(ScenarioLine const& line) {
@@ -143,14 +199,19 @@ void ScenarioPlayer::Click(ScenarioLine const& line) {
         Screen().Click(window_, line.Word(1));
 }
 
+void ScenarioPlayer::Press(ScenarioLine const& line) {
+    if (!options_.interactive) Screen().Press(window_, line.Word(1));
+}
+
 void ScenarioPlayer::Select(ScenarioLine const& line) {
     if (Instructs("select row " + line.Word(2) + " of the list")) return;
-    Screen().ClickLine(window_, line.Has("in") ? line.Word(4) : row_list, std::stoul(line.Word(2)));
+    Screen().SelectLine(window_, line.Has("in") ? line.Word(4) : row_list, std::stoul(line.Word(2)));
 }
 
 void ScenarioPlayer::Drag(ScenarioLine const& line) {
     if (Instructs("drag " + line.Word(1))) return;
-    Screen().Drag(window_, line.Word(1), std::stod(line.Word(2)), std::stod(line.Word(3)));
+    Screen().Drag(window_, line.Word(1), std::stod(line.Word(2)), std::stod(line.Word(3)),
+                  static_cast<unsigned>(std::stoul(line.Value("button", "1"))));
 }
 
 void ScenarioPlayer::Screenshot(ScenarioLine const& line) {
@@ -172,8 +233,8 @@ void ScenarioPlayer::Open(ScenarioLine const&) {
 
 void ScenarioPlayer::Close(ScenarioLine const& line) {
     if (line.Has("window")) return Screen().RequestClose(window_);
-    program_.CloseReceiving();
-    if (!line.Has("reading")) program_.CloseSending();
+    Program().CloseReceiving();
+    if (!line.Has("reading")) Program().CloseSending();
 }
 
 bool ScenarioPlayer::Instructs(std::string const& instruction) {

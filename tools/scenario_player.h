@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -17,6 +18,7 @@ struct PlayerOptions {
     std::filesystem::path directory;  // where files named with "@" lie
     std::filesystem::path output;     // for screenshots, and for the program's base directory
     bool interactive = false;         // asks the person at the display instead of moving the pointer
+    bool reads_resources = true;      // lines that ask for a widget's resources do so; otherwise they are passed over
     std::ostream* log = nullptr;      // for every message that crosses the pipes, and every instruction
 };
 
@@ -25,8 +27,7 @@ struct PlayerOptions {
 // What a line expects and does not find throws std::runtime_error that quotes the line.
 class ScenarioPlayer {
   public:
-    // Starts the program.
-    explicit ScenarioPlayer(PlayerOptions options);
+    explicit ScenarioPlayer(PlayerOptions options) : options_(std::move(options)) {}
 
     void Play(std::string_view lines);
 
@@ -38,7 +39,8 @@ class ScenarioPlayer {
     // Its name and fields in one line; empty before the first.
     std::string const& LastAnswer() const { return last_answer_; }
 
-    ClientProcess& Program() { return program_; }
+    // Starts the program at the first use.
+    ClientProcess& Program();
     // Connects at the first use.
     DisplayDriver& Screen();
 
@@ -46,12 +48,17 @@ class ScenarioPlayer {
     using Verb = void (ScenarioPlayer::*)(ScenarioLine const&);
 
     void PlayLine(ScenarioLine const& line);
+    void ChangeEnvironment(ScenarioLine const& line);
     void AddSupportFile(ScenarioLine const& line);
     void SendRaw(ScenarioLine const& line);
     void Expect(ScenarioLine const& line);
     void WaitFor(ScenarioLine const& line);
     void WaitForResource(ScenarioLine const& line, Milliseconds limit);
+    void WaitForSensitivity(ScenarioLine const& line, Milliseconds limit);
+    void WaitForRows(ScenarioLine const& line, Milliseconds limit);
+    void WaitForText(ScenarioLine const& line, Milliseconds limit);
     void Click(ScenarioLine const& line);
+    void Press(ScenarioLine const& line);
     void Select(ScenarioLine const& line);
     void Drag(ScenarioLine const& line);
     void Screenshot(ScenarioLine const& line);
@@ -65,7 +72,7 @@ class ScenarioPlayer {
     void Log(std::string const& title, std::string_view text);
 
     PlayerOptions options_;
-    ClientProcess program_;
+    std::optional<ClientProcess> program_;
     std::unique_ptr<DisplayDriver> screen_;
     std::string support_files_;
     std::string last_answer_;

@@ -57,6 +57,7 @@ void Play(CommandLine line) {
     line.player.output = std::filesystem::absolute(line.player.output).lexically_normal();
     line.player.directory = line.scenario.parent_path();
     line.player.launch.fixed_addresses = true;
+    line.player.reads_resources = !line.player.interactive && tools::AddressesCanBeFixed();
     line.player.log = &std::cout;
     tools::ScenarioPlayer player(line.player);
     player.Play(Contents(line.scenario));

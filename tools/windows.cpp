@@ -2,8 +2,6 @@
 
 #include <X11/Xutil.h>
 
-#include <vector>
-
 namespace tools {
 
 namespace {
@@ -75,6 +73,10 @@ bool IsOnScreen(Display* display, Window window) {
 
 Window ParentOf(Display* display, Window window) {
     return FamilyOf(display, window).parent;
+}
+
+std::vector<Window> ChildrenOf(Display* display, Window window) {
+    return FamilyOf(display, window).children;
 }
 
 Area AreaOf(Display* display, Window window) {

@@ -3,6 +3,7 @@
 #include <X11/Xlib.h>
 
 #include <string>
+#include <vector>
 
 #include "tools/pixels.h"
 
@@ -26,6 +27,8 @@ bool IsOnScreen(Display* display, Window window);
 
 // 0 for the root.
 Window ParentOf(Display* display, Window window);
+
+std::vector<Window> ChildrenOf(Display* display, Window window);
 
 // Without its border.
 Area AreaOf(Display* display, Window window);

@@ -1,7 +1,7 @@
-#include <sys/personality.h>
-
 #include "tests/support/program_test.h"
 #include "tools/client_messages.h"
+
+namespace {
 
 class Actions : public ProgramTest {
   protected:
@@ -9,75 +9,32 @@ class Actions : public ProgramTest {
         Start();
         Play("initialize");
     }
+
+    // As many lines of ten bytes each, as a scenario spells them.
+    static std::string Lines(int count) {
+        std::string lines;
+        for (int line = 1; line <= count; ++line) lines += "line " + std::to_string(10000 + line).substr(1) + "\\n";
+        return lines;
+    }
 };
 
-TEST_F(Actions, TheSelectedOneIsTaken) {
-    Play(R"(
-        request id=1 title=One
-        request id=2 title=Two
-        request id=3 title=Three
-        wait window ActionRequestDialog
-        select row 2
-        click form.takeActions
-        expect ActionTaken ID=2 IsCancel=false IsOffer=false
-        select row 2
-        click form.takeActions
-        expect ActionTaken ID=3 IsCancel=false
-    )");
-}
+}  // namespace
 
-TEST_F(Actions, OnlyACancellableOneIsCancelled) {
+TEST_F(Actions, NothingIsTakenOrCancelledWithoutBeingAllowed) {
     Play(R"(
-        request id=1 title=Must
-        request id=2 title=May cancellable
+        request id=1 title=May cancellable
+        request id=2 title=Must
         wait window ActionRequestDialog
+        press form.takeActions
+        press form.cancelAction
+        select row 2
+        press form.cancelAction
+        press form.snoozeButton
         select row 1
         click form.cancelAction
-        select row 2
-        click form.cancelAction
-        expect ActionTaken ID=2 IsCancel=true IsOffer=false
-    )");
-}
-
-TEST_F(Actions, NothingIsTakenWithoutASelection) {
-    Play(R"(
-        request id=1 title=One cancellable
-        wait window ActionRequestDialog
+        expect ActionTaken ID=1 IsCancel=true
         click form.takeActions
-        click form.cancelAction
-        click form.takeAllActions
-        expect ActionTaken ID=1 IsCancel=false
-    )");
-}
-
-TEST_F(Actions, AllAreTakenInTheirOrderAndLaterOnesCanBeTaken) {
-    Play(R"(
-        request id=9 title=Nine
-        request id=7 title=Seven
-        request id=7 title="Seven again"
-        wait window ActionRequestDialog
-        click form.takeAllActions
-        expect ActionTaken ID=9
-        expect ActionTaken ID=7
-        expect ActionTaken ID=7
-        request id=1 title=One
-        select row 1
-        click form.takeAllActions
-        expect ActionTaken ID=1
-    )");
-}
-
-TEST_F(Actions, OneThatTheClientWithdrawsIsGone) {
-    Play(R"(
-        request id=1 title=One
-        request id=2 title=Two
-        remove offer 2
-        request id=1 title="One again"
-        remove action 1
-        wait window ActionRequestDialog
-        click form.takeAllActions
-        expect ActionTaken ID=2
-        expect ActionTaken ID=1
+        expect ActionTaken ID=2 IsCancel=false
     )");
 }
 
@@ -85,7 +42,7 @@ TEST_F(Actions, AnOverdueOneThatMustRunIsTakenByItself) {
     Play(R"(
         request id=1 title="Overdue, but may wait" deadline=-1h
         request id=2 title="Must run, later" force deadline=+10m
-        request id=3 title="Must run" force deadline=-1s
+        request id=3 title="Must run" force deadline=-1s confirm="Sure?"
         expect ActionTaken ID=3 IsCancel=false IsOffer=false
         wait window ActionRequestDialog
         click form.takeAllActions
@@ -94,38 +51,40 @@ TEST_F(Actions, AnOverdueOneThatMustRunIsTakenByItself) {
     )");
 }
 
-TEST_F(Actions, AnotherProgramCanBringTheDialogUp) {
-    Play("open\nwait window ActionRequestDialog");
-}
-
-// Reads the labels from outside, which needs fixed addresses.
-TEST_F(Actions, TheCountLineFollowsTheList) {
-#ifdef __SANITIZE_ADDRESS__
-    GTEST_SKIP() << "widgets lie where no outsider can name them";
-#endif
-    if (personality(ADDR_NO_RANDOMIZE) == -1) GTEST_SKIP() << "this system does not let addresses be fixed";
-    Play(R"(
-        request id=1 title=One
-        request id=2 title=Two
-        wait window ActionRequestDialog
-        wait widget form.actiontitle label="There are 2 pending actions."
-        remove action 1
-        wait widget form.actiontitle label="There is 1 pending action."
-        select row 1
-        wait widget form.actiontitle label=Two
-        click form.takeActions
-        expect ActionTaken ID=2
-        wait widget form.actiontitle label="There are no pending actions."
-    )");
-}
-
-TEST_F(Actions, ALongListScrolls) {
-    for (int id = 1; id <= 40; ++id) Play("request title=Many id=" + std::to_string(id));
+TEST_F(Actions, FiveHundredScroll) {
+    std::string requests;
+    for (int id = 1; id <= 500; ++id) requests += "request title=Many id=" + std::to_string(id) + "\n";
+    Program().SendFrame(Document(requests));
     Play(R"(
         wait window ActionRequestDialog
         drag form.viewport.vertical 0 1
         select row 3
         click form.takeActions
     )");
-    EXPECT_GT(std::stoi(tools::ReadAnswer(Receive()).fields["ID"]), 30);
+    EXPECT_GT(std::stoi(tools::ReadAnswer(Receive()).fields["ID"]), 490);
+}
+
+// With the first and the third button.
+TEST_F(Actions, TenThousandLinesOfScriptOrQuestionScroll) {
+    Play("request id=1 title=Long preview=\"" + Lines(10000) + "\" confirm=\"" + Lines(10000) + "\"");
+    Play(R"(
+        wait window ActionRequestDialog
+        select row 1
+        click form.actionDetails
+        wait window ActionDetailsDialog
+        drag form.actiondetails.vScrollbar 0 0.5
+        wait widget form.actiondetails displayPosition=[45]????
+        drag form.actiondetails.vScrollbar 0.5 0.9 button=3
+        wait widget form.actiondetails displayPosition=[89]????
+        click form.ok
+        wait window ActionRequestDialog
+        click form.takeActions
+        wait window ConfirmationDialog
+        drag form.actionconfirmation.vScrollbar 0 0.5 button=3
+        wait widget form.actionconfirmation displayPosition=[45]????
+        drag form.actionconfirmation.vScrollbar 0.5 0.9
+        wait widget form.actionconfirmation displayPosition=[89]????
+        click form.ok
+        expect ActionTaken ID=1
+    )");
 }

@@ -2,7 +2,7 @@
 
 #include <fstream>
 
-void ProgramTest::Start(Environment const& changes) {
+void ProgramTest::Prepare(Environment const& changes, std::vector<std::string> const& arguments) {
     tools::PlayerOptions options;
     options.launch.program = PROGRAM_UNDER_TEST;
     options.launch.environment = {{"DISPLAY", display_.Name()},
@@ -11,9 +11,21 @@ void ProgramTest::Start(Environment const& changes) {
                                   {"ASAN_OPTIONS", "malloc_context_size=2"},
                                   {"LSAN_OPTIONS", "print_suppressions=0:suppressions=" LEAKS_OF_THE_TOOLKIT}};
     for (auto const& [name, value] : changes) options.launch.environment[name] = value;
+    options.launch.arguments = arguments;
     options.launch.fixed_addresses = true;
+    options.directory = SCENARIOS;
     options.output = Directory();
+#ifdef __SANITIZE_ADDRESS__
+    // Widgets lie where no outsider can name them.
+    options.reads_resources = false;
+#else
+    options.reads_resources = tools::AddressesCanBeFixed();
+#endif
     player_.emplace(options);
+}
+
+void ProgramTest::Start(Environment const& changes, std::vector<std::string> const& arguments) {
+    Prepare(changes, arguments);
     Play("expect ReadyForData");
 }
 

@@ -21,7 +21,9 @@ class ProgramTest : public ::testing::Test {
     using Environment = std::map<std::string, std::optional<std::string>>;
 
     // Starts the program with changes to its environment, and takes its greeting.
-    void Start(Environment const& changes = {});
+    void Start(Environment const& changes = {}, std::vector<std::string> const& arguments = {});
+    // Only gets everything ready for the lines of a whole scenario, which start it.
+    void Prepare(Environment const& changes = {}, std::vector<std::string> const& arguments = {});
     void Play(std::string_view lines) { player_->Play(lines); }
     void TearDown() override;
 
