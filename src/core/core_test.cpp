@@ -182,6 +182,22 @@ TEST_F(CoreTest, WithdrawalsDuringATakeAllSkipNoQuestion) {
     }
 }
 
+TEST_F(CoreTest, ASweepDuringATakeAllSkipsNoQuestionEither) {
+    initialized = true;
+    m_postponedTo = Instant(INT64_MAX);
+    Receive(Request(1, Deadline(-2)) + Request(2, Deadline(-2)) + Request(3, kAsk) + Request(4, kAsk) +
+            Request(5, kAsk + Deadline(-2)) + Request(6));
+    Decide(UICommandType::TakeAll);
+    ServiceTimerTick();
+    EXPECT_THAT(Replies(),
+                ElementsAre("ActionTaken false false 1", "ActionTaken false false 2", "ActionTaken false false 5"));
+    Decide(UICommandType::ConfirmationAccepted, 3);
+    EXPECT_THAT(Replies(), IsEmpty());
+    Decide(UICommandType::ConfirmationAccepted, 4);
+    EXPECT_THAT(Replies(),
+                ElementsAre("ActionTaken false false 3", "ActionTaken false false 4", "ActionTaken false false 6"));
+}
+
 TEST_F(CoreTest, AnAnswerToAnotherQuestionDoesNotContinueTheTakeAll) {
     Receive(Request(1, kAsk) + Request(2, kAsk));
     Decide(UICommandType::Take, 2);

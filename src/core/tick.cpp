@@ -31,16 +31,12 @@ Overdue DeadlineOf(ActionRequest const& action, Instant now) {
 void SweepDeadlines() {
     Instant const now = Instant::Now();
     bool refresh = false;
-    for (std::size_t position = 0; position < actions.size();) {
-        auto const overdue = DeadlineOf(actions[position], now);
+    actions.EraseIf([&](ActionRequest const& action) {
+        auto const overdue = DeadlineOf(action, now);
         refresh |= overdue != Overdue::No;
-        if (overdue != Overdue::Yes) {
-            ++position;
-            continue;
-        }
-        SendToClient(ClientWriter(), ActionTaken{.id = actions[position].id});
-        actions.Erase(position);
-    }
+        if (overdue == Overdue::Yes) SendToClient(ClientWriter(), ActionTaken{.id = action.id});
+        return overdue == Overdue::Yes;
+    });
     if (refresh) UpdateActionRequestDialog();
 }
 

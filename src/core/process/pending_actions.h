@@ -8,8 +8,8 @@
 
 // The action requests that the client offers and the user has not yet answered, in arrival order. Main thread only.
 //
-// An ID may stand in it more than once; looking one up finds the first. All erasing goes through Erase, which keeps the
-// cursor of a take-all in progress in front of the same action, whatever is removed meanwhile and by whom.
+// An ID may stand in it more than once; looking one up finds the first. Erasing keeps the cursor of a take-all in progress
+// in front of the same action, whatever is removed meanwhile and by whom.
 class PendingActions {
   public:
     using Iterator = std::vector<ActionRequest>::const_iterator;
@@ -29,6 +29,10 @@ class PendingActions {
 
     void Append(ActionRequest const& request) { requests_.push_back(request); }
     void Erase(std::size_t position);
+    // Asks `leaves` about each request, in order, and erases those for which it answers true; the list must not change
+    // meanwhile. When an answer throws, those before it are erased all the same. Takes time linear in the list.
+    template <class Leaves>
+    void EraseIf(Leaves leaves);
     void Clear();
 
     // The first action that the take-all in progress has not yet come to; at most size().
@@ -36,6 +40,20 @@ class PendingActions {
     void SetTakeAllCursor(std::size_t position) { take_all_cursor_ = position; }
 
   private:
+    void Erase(std::vector<bool> const& leaving);
+
     std::vector<ActionRequest> requests_;
     std::size_t take_all_cursor_ = 0;
 };
+
+template <class Leaves>
+void PendingActions::EraseIf(Leaves leaves) {
+    std::vector<bool> leaving(size());
+    try {
+        for (std::size_t i = 0; i < size(); ++i) leaving[i] = leaves(requests_[i]);
+    } catch (...) {
+        Erase(leaving);
+        throw;
+    }
+    Erase(leaving);
+}
