@@ -88,6 +88,7 @@ void SnoozePressed() {
 
 void RebuildRows() {
     auto rows = MakeActionRows(actions);
+    dialog.checked_actions = actions.size();
     std::vector<unsigned long long> ids;
     for (auto const& action : actions) ids.push_back(action.id);
     dialog.ids = std::move(ids);
@@ -101,8 +102,12 @@ void CheckNewTitles() {
     for (auto const& action : actions.Requests().subspan(first)) MakeLocalString<UTF8>(action.title);
 }
 
+void ForgetSelectionBeyond(std::size_t rows) {
+    if (std::cmp_greater_equal(dialog.selected_row, rows)) dialog.selected_row = -1;
+}
+
 void HighlightSelection() {
-    if (std::cmp_greater_equal(dialog.selected_row, dialog.ids.size())) dialog.selected_row = -1;
+    ForgetSelectionBeyond(dialog.ids.size());
     dialog.action_list.Highlight(dialog.selected_row);
 }
 
@@ -298,6 +303,8 @@ void HideActionRequestDialog() {
 void UpdateActionRequestDialog() {
     if (!dialog.shell || !dialog.enabled) return;
     dialog.update_wanted = true;
+    // At once: a list that is emptied and filled again before the refresh has no selection.
+    ForgetSelectionBeyond(actions.size());
     CheckNewTitles();
 }
 
@@ -314,7 +321,8 @@ void EnableActionRequestDialog() {
 
 void DisableActionRequestDialog() {
     if (!dialog.shell) return;
-    RefreshActionRequestDialog();
+    // A text that cannot be shown must not leave the decisions open.
+    Guarded(RefreshActionRequestDialog);
     SetAllSensitive(false);
     dialog.enabled = false;
 }

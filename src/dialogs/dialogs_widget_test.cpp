@@ -172,6 +172,15 @@ TEST_F(DialogsTest, EverythingFitsTheWindowAfterEachRefresh) {
 TEST_F(DialogsTest, AnEmptiedDialogIsFilledAgain) {
     Pend(2);
     Show();
+    XawListHighlight(ListIn("form.viewport"), 1);
+    XEvent released{};
+    XtCallActionProc(ListIn("form.viewport"), "PostponeListSelect", &released, nullptr, 0);
+    EXPECT_EQ(Text(InDialog("form.actiontitle"), XtNlabel), "Action 1");
+    Pend(0);
+    UpdateActionRequestDialog();
+    Pend(2);
+    Refresh();
+    EXPECT_EQ(Text(InDialog("form.actiontitle"), XtNlabel), "There are 2 pending actions.") << "nothing is selected";
     Pend(0);
     Refresh();
     EXPECT_FALSE(XtIsSensitive(InDialog("form.takeAllActions")));
@@ -199,6 +208,16 @@ TEST_F(DialogsTest, ADisabledDialogKeepsItsListAndHearsNothing) {
     RefreshActionRequestDialog();
     EXPECT_EQ(Text(InDialog("form.actiontitle"), XtNlabel), "There are 5 pending actions.");
     EXPECT_TRUE(XtIsSensitive(ListIn("form.viewport")));
+}
+
+TEST_F(DialogsTest, ATitleThatCannotBeShownFailsOnceAndLeavesTheDialogDisabled) {
+    Pend(1);
+    Show();
+    Pend(2, [](ActionRequest& action) { action.SetTitle("\xFF"); });
+    EXPECT_ANY_THROW(UpdateActionRequestDialog());
+    EXPECT_NO_THROW(UpdateActionRequestDialog());
+    DisableActionRequestDialog();
+    EXPECT_FALSE(IsActionRequestDialogEnabled() || XtIsSensitive(InDialog("form.takeAllActions")));
 }
 
 TEST_F(DialogsTest, TheProposedChoiceIsHighlightedAndInView) {
