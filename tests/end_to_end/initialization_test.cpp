@@ -73,7 +73,7 @@ struct FailingCase {
 
 class FailingInitialization : public Initialization, public ::testing::WithParamInterface<FailingCase> {};
 
-// Whatever is wrong with it, it touches nothing, and the next one counts.
+// Whatever is wrong with it, it touches nothing that it need not, and the next one counts.
 TEST_P(FailingInitialization, IsFollowedByOneThatSucceeds) {
     Write(Directory() / "file", "in the way");
     Write(Directory() / "full" / "old.txt", "old");
@@ -101,6 +101,9 @@ INSTANTIATE_TEST_SUITE_P(
     All, FailingInitialization,
     ::testing::Values(FailingCase{"NoBase", ""}, FailingCase{"EmptyBase", "<BaseDirectory></BaseDirectory>"},
                       FailingCase{"FileInTheWay", "<BaseDirectory>~/file/below</BaseDirectory>"},
+                      FailingCase{"RelativeBase", "<BaseDirectory>full</BaseDirectory>"},
+                      FailingCase{"HalfDone", "<BaseDirectory>~/half</BaseDirectory>" + tools::SupportFile("a", "a") +
+                                                  tools::SupportFile(std::string(256, 'b'), "b")},
                       FailingCase{"NameLeadsOut", FullWith(tools::SupportFile("../file", "over it"))},
                       FailingCase{"NameIsParent", FullWith(tools::SupportFile("..", "over it"))},
                       FailingCase{"NoDuration", FullWith("<InitialUISettings><RemindInterval>soon</RemindInterval>"
