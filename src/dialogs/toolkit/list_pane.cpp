@@ -16,6 +16,7 @@ void ListPane::Create(Widget parent, char const* name, int width, int height, Ar
     list_ =
         ::Create(viewport_, "", listWidgetClass,
                  {{XtNdefaultColumns, 1}, {XtNforceColumns, true}, {XtNverticalList, true}, {XtNinternational, true}});
+    // A list that was never given an array shows its own name as a row.
     ShowRows({});
 }
 

@@ -1,16 +1,23 @@
 #include "dialogs/toolkit/list_rows.h"
 
-#include <X11/Intrinsic.h>
-#include <X11/Xaw/List.h>
+#include <X11/IntrinsicP.h>
+#include <X11/Xaw/ListP.h>
 
+#include <algorithm>
 #include <utility>
 
-char const** ListRows::NoRows() {
-    static char const* none[] = {nullptr};
-    return none;
+namespace {
+
+std::size_t MostRows(Widget list) {
+    constexpr int tallest = 32767;  // Pixels, of a window that can be scrolled to its end.
+    auto const& part = reinterpret_cast<ListWidget>(list)->list;
+    return static_cast<std::size_t>((tallest - 2 * part.internal_height) / std::max(part.row_height, 1));
 }
 
+}  // namespace
+
 void ListRows::Show(Widget list, std::vector<AutoNullTerminated<char>> rows) {
+    rows.resize(std::min(rows.size(), MostRows(list)));
     std::vector<char const*> array;
     array.reserve(rows.size() + 1);
     for (auto const& row : rows) array.push_back(row.c_str());

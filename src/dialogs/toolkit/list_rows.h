@@ -13,11 +13,9 @@
 class ListRows {
   public:
     // Hands `rows` to the list in place of whatever it shows, unmanaging it meanwhile so that it is laid out once.
-    // Nothing is highlighted afterwards.
+    // Nothing is highlighted afterwards. Of very many rows the last are left out: positions in a window end at 32,767
+    // pixels, and a list's size is kept in 16 bits and would be none at all for certain numbers of rows.
     void Show(Widget list, std::vector<AutoNullTerminated<char>> rows);
-
-    // The array of a list that has no rows yet. A list that was never given an array shows its own name as a row.
-    static char const** NoRows();
 
     std::size_t Count() const { return rows_.size(); }
 
@@ -26,8 +24,8 @@ class ListRows {
     std::vector<char const*> array_;
 };
 
-// Highlights `row`, which must be one of the list's `count` rows: the widget itself does not check, and a highlight
-// beyond the rows makes it read beyond its array.
+// Highlights `row` if it is one of the list's `count` rows: the widget itself does not check, and a highlight beyond the
+// rows makes it read beyond its array.
 void HighlightRow(Widget list, int row, std::size_t count);
 
 // The highlighted row, or -1.
