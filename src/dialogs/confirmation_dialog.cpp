@@ -29,6 +29,7 @@ unsigned long long asked_id = 0;
 int minimum_text_width = 500;
 
 constexpr int kMargin = 4;  // Pixels around and between the widgets of a form.
+constexpr int kMostTitleLines = 10;
 
 struct Texts {
     AutoNullTerminated<char> window_title = ControlLiteral("Confirmation Required");
@@ -40,10 +41,18 @@ struct Texts {
     AutoNullTerminated<char> confirmation;
 };
 
+// The rest of a title of more lines is cut off: it would push the buttons out of the display.
+AutoNullTerminated<char> FirstLines(AutoNullTerminated<char> const& title) {
+    char const* end = title.c_str();
+    for (int lines = 0; *end && (*end != '\n' || ++lines < kMostTitleLines); ++end) {
+    }
+    return {title.c_str(), end};
+}
+
 Texts TextsFor(unsigned long long id) {
     Texts texts;
     ActionRequest const* action = actions.FindAction(id);
-    if (action) texts.action_title = MakeLocalString<UTF8>(action->title);
+    if (action) texts.action_title = FirstLines(MakeLocalString<UTF8>(action->title));
     if (action && action->pre_action_message)
         texts.confirmation = MakeLocalString<UTF8>(action->pre_action_message->Ref());
     return texts;

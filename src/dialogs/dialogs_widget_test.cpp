@@ -141,9 +141,10 @@ class DialogsTest : public testing::Test {
 TEST_F(DialogsTest, TheListsScrollBarComesAndGoesBesideTheRows) {
     Pend(2);
     Show();
-    for (int count : {20, 3, 0, 500, 1}) {
+    for (int count : {20, 3, 0, 500, 3000, 1}) {
         Pend(count);
         Refresh();
+        EXPECT_LE(HeightOf(ListIn("form.viewport")), 32767) << count;
         Widget bar = VerticalScrollbar(InDialog("form.viewport"));
         EXPECT_EQ(bar != nullptr, count > 5) << count;
         // The window's width is the buttons', with or without the bar.
@@ -252,6 +253,17 @@ TEST_F(DialogsTest, AConfirmationIsAnsweredOnceAndIsNeverNarrowerThanItsExplanat
         Press(Find(shells[0], button));
         EXPECT_EQ(Commands(), (std::vector{std::pair(answer, 1ULL)}));
         EXPECT_TRUE(Shells("ConfirmationDialog").empty());
+    }
+}
+
+TEST_F(DialogsTest, AConfirmationsButtonsStayOnTheDisplayWhateverItsTitle) {
+    for (char const letter : {'w', '\n'}) {
+        Pend(1, [&](ActionRequest& action) { action.SetTitle(std::string(5000, letter).c_str()); });
+        ShowConfirmationRequestDialog(0);
+        Widget const shell = Shells("ConfirmationDialog").at(0);
+        EXPECT_LE(WidthOf(shell), WidthOfScreen(XtScreen(shell)));
+        EXPECT_LE(HeightOf(shell), HeightOfScreen(XtScreen(shell)));
+        HideConfirmationRequestDialog();
     }
 }
 
