@@ -88,7 +88,7 @@ TEST_F(PortableThreadTest, AThreadThatCannotStartSaysSoOnStandardError) {
 }
 
 TEST_F(PortableThreadTest, ExitRoutinesRunInTheOrderOfTheirRegistration) {
-    static std::atomic<int> order;
+    static std::atomic<unsigned> order;  // goes on, and round, with the threads of later tests
     AtThreadExit([] { order = order * 10 + 1; });
     AtThreadExit([] { order = order * 10 + 2; });
     PortableThread::RunPortableThread(Leave, nullptr);
