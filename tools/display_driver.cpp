@@ -10,7 +10,7 @@ namespace tools {
 
 namespace {
 
-Milliseconds const patience = std::chrono::seconds(5);
+Milliseconds const patience = std::chrono::seconds(10);
 
 Display* Open(std::string const& name) {
     Display* display = XOpenDisplay(name.c_str());

@@ -225,7 +225,7 @@ void ScenarioPlayer::Screenshot(ScenarioLine const& line) {
 void ScenarioPlayer::Open(ScenarioLine const&) {
     DisplayDriver& screen = Screen();
     Window window = 0;
-    if (!WaitUntil(std::chrono::seconds(5), [&] { return (window = screen.FindWindow(hidden_window)) != 0; })) {
+    if (!WaitUntil(std::chrono::seconds(10), [&] { return (window = screen.FindWindow(hidden_window)) != 0; })) {
         throw std::runtime_error("no hidden window");
     }
     screen.SendText(window, "open");
@@ -245,7 +245,7 @@ bool ScenarioPlayer::Instructs(std::string const& instruction) {
 Milliseconds ScenarioPlayer::LimitOf(ScenarioLine const& line) const {
     if (options_.interactive) return std::chrono::hours(1);
     auto within = std::find(line.words.begin(), line.words.end(), "within");
-    return within == line.words.end() ? std::chrono::seconds(5) : ParseSpan(*std::next(within));
+    return within == line.words.end() ? std::chrono::seconds(10) : ParseSpan(*std::next(within));
 }
 
 // Fills in what a scenario leaves out or keeps in a file.

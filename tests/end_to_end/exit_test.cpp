@@ -41,5 +41,5 @@ TEST_F(Exit, AClientThatOnlyStopsReadingIsNoticedByTheNextAnswer) {
 TEST_F(Exit, AClientThatNeverReadIsNoSignal) {
     tools::ClientProcess program({PROGRAM_UNDER_TEST, {}, {{"DISPLAY", std::nullopt}}});
     program.CloseReceiving();
-    EXPECT_EQ(program.WaitForEnd(std::chrono::seconds(5)), "exit 0");
+    EXPECT_EQ(program.WaitForEnd(std::chrono::seconds(10)), "exit 0");
 }

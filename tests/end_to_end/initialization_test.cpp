@@ -84,7 +84,7 @@ TEST_P(FailingInitialization, IsFollowedByOneThatSucceeds) {
     Play("support-file a.txt a");
     std::string initialization = Document("initialize");
     // What follows in the same batch is lost, and no answer tells the batches apart.
-    EXPECT_TRUE(tools::WaitUntil(std::chrono::seconds(5), [&] {
+    EXPECT_TRUE(tools::WaitUntil(std::chrono::seconds(10), [&] {
         Program().SendFrame(initialization);
         return std::filesystem::exists(BaseDirectory() / "a.txt");
     }));
@@ -126,7 +126,7 @@ TEST_P(Translations, AreChosenByTheLocale) {
         Play("support-file " + file + " \"Action Requests\\t" + file + (file == "FR_ca.XLAT" ? " été\"" : "\""));
     }
     Play(std::string("initialize ") + GetParam().flags + "\nopen");
-    Window window = Screen().WaitForWindow("ActionRequestDialog", std::chrono::seconds(5));
+    Window window = Screen().WaitForWindow("ActionRequestDialog", std::chrono::seconds(10));
     EXPECT_EQ(Screen().Title(window), GetParam().title);
 }
 

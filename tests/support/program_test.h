@@ -33,7 +33,7 @@ class ProgramTest : public ::testing::Test {
     // The document that message lines stand for.
     std::string Document(std::string_view lines) const { return player_->DocumentFor(lines); }
     // The next answer to the byte; throws when there is none.
-    std::string Receive() { return player_->Receive(std::chrono::seconds(5)); }
+    std::string Receive() { return player_->Receive(std::chrono::seconds(10)); }
     std::filesystem::path const& Directory() const { return directory_.Path(); }
     // The one the program is told to use unless a case names another.
     std::filesystem::path BaseDirectory() const { return Directory() / "base"; }
