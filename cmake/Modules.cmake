@@ -29,7 +29,7 @@ function(add_test_program name)
     NO_PRETTY_VALUES
     DISCOVERY_TIMEOUT 60
     TEST_PREFIX "${name}."
-    PROPERTIES TIMEOUT 120 ENVIRONMENT LOCPATH=${TEST_LOCALES} LABELS "${program_LABELS}")
+    PROPERTIES TIMEOUT 120 LABELS "${program_LABELS}")
   add_dependencies(${name} test_locales)
   foreach(label IN LISTS program_LABELS)
     if(NOT TARGET ${label}_tests)

@@ -5,11 +5,7 @@
 void ProgramTest::Prepare(Environment const& changes, std::vector<std::string> const& arguments) {
     tools::PlayerOptions options;
     options.launch.program = PROGRAM_UNDER_TEST;
-    options.launch.environment = {{"DISPLAY", display_.Name()},
-                                  {"LC_ALL", "C"},
-                                  {"LANGUAGE", std::nullopt},
-                                  {"ASAN_OPTIONS", "malloc_context_size=2"},
-                                  {"LSAN_OPTIONS", "print_suppressions=0:suppressions=" LEAKS_OF_THE_TOOLKIT}};
+    options.launch.environment = {{"DISPLAY", display_.Name()}, {"LC_ALL", "C"}, {"LANGUAGE", std::nullopt}};
     for (auto const& [name, value] : changes) options.launch.environment[name] = value;
     options.launch.arguments = arguments;
     options.launch.fixed_addresses = true;
