@@ -1,6 +1,7 @@
 #include "tests/support/program_test.h"
 
 #include <X11/Xutil.h>
+#include <sys/stat.h>
 
 class Resources : public ProgramTest, public ::testing::WithParamInterface<char const*> {
   protected:
@@ -27,3 +28,12 @@ TEST_P(Resources, OfTheInstalledExampleTakeEffect) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Place, Resources, ::testing::Values("XENVIRONMENT", "XUSERFILESEARCHPATH", "XFILESEARCHPATH"));
+
+// The table of key sequences is a pipe that nobody writes to: who reads it waits for ever.
+TEST_F(ProgramTest, DialogsWaitForNoInputMethod) {
+    auto const table = Directory() / "Compose";
+    ASSERT_EQ(mkfifo(table.c_str(), 0600), 0);
+    Start({{"LC_ALL", "de_DE.UTF-8"}, {"XCOMPOSEFILE", table}});
+    Play("initialize locale\nrequest id=1 title=One\nmessage id=2 title=Two");
+    Play("wait window ActionRequestDialog\nwait window MessageDialog");
+}

@@ -12,9 +12,12 @@
 
 Widget CreateDialogShell(char const* name, char const* title) {
     static XtTranslations const closing = XtParseTranslationTable("<Message>WM_PROTOCOLS: SystemMenuClose()\n");
-    Widget shell = XtVaAppCreateShell(name, "XQENClientUI", applicationShellWidgetClass, display, XtNtitle, title,
-                                      XtNiconName, title, XtNmappedWhenManaged, False, XtNallowShellResize, True,
-                                      XtNinput, True, XtNwindowRole, name, XtNclientLeader, qenHidden, nullptr);
+    // Nothing is typed into a dialog, so none opens an input method: that would read its long table of key sequences, or
+    // wait for a server of its own.
+    Widget shell =
+        XtVaAppCreateShell(name, "XQENClientUI", applicationShellWidgetClass, display, XtNtitle, title, XtNiconName,
+                           title, XtNmappedWhenManaged, False, XtNallowShellResize, True, XtNinput, True, XtNwindowRole,
+                           name, XtNclientLeader, qenHidden, "openIm", False, nullptr);
     XtOverrideTranslations(shell, closing);
     return shell;
 }
