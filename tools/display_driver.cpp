@@ -195,6 +195,23 @@ void DisplayDriver::RequestClose(Window window) {
     SendClientMessage(display_.get(), managed ? root_ : window, message);
 }
 
+void DisplayDriver::Destroy(Window window) {
+    XDestroyWindow(display_.get(), window);
+    XSync(display_.get(), False);
+}
+
+void DisplayDriver::KillOwner(Window window) {
+    XKillClient(display_.get(), window);
+    XSync(display_.get(), False);
+}
+
+void DisplayDriver::LeaveFonts(std::filesystem::path const& directory) {
+    std::string path = directory.string() + ":unscaled";
+    char* paths[] = {path.data()};
+    XSetFontPath(display_.get(), paths, 1);
+    XSync(display_.get(), False);
+}
+
 void DisplayDriver::SendText(Window window, std::string const& text) {
     XClientMessageEvent message{};
     message.window = window;

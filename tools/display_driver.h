@@ -60,6 +60,11 @@ class DisplayDriver {
 
     // Closes the window as its close button does: through the window manager, or in its stead when none runs.
     void RequestClose(Window window);
+    // What a misbehaving program can do to another one's window, and to its connection.
+    void Destroy(Window window);
+    void KillOwner(Window window);
+    // Takes all fonts but those in the directory away from the server, which holds them ready as they are.
+    void LeaveFonts(std::filesystem::path const& directory);
     // Sends `text`, at most 20 bytes of it, as a message of a type that no program knows.
     void SendText(Window window, std::string const& text);
 

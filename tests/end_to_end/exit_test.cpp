@@ -1,6 +1,32 @@
+#include <fstream>
+
 #include "tests/support/program_test.h"
 
-using Exit = ProgramTest;
+namespace {
+
+class Exit : public ProgramTest {
+  protected:
+    // The report comes twice.
+    void ExpectReport(std::string const& text, std::string const& code) {
+        for (int time = 0; time < 2; ++time) {
+            EXPECT_EQ(Receive(),
+                      "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                      "<ClientToUI>\n"
+                      "\t<ClientUIErrorMessage>\n"
+                      "\t\t<DebugString>" +
+                          text +
+                          "</DebugString>\n"
+                          "\t\t<ErrorCode>" +
+                          code +
+                          "</ErrorCode>\n"
+                          "\t</ClientUIErrorMessage>\n"
+                          "</ClientToUI>");
+        }
+        Play("expect exit 0");
+    }
+};
+
+}  // namespace
 
 TEST_F(Exit, AClientGoneBeforeInitializationIsTheEndAndNoDisplayIsOpened) {
     Start({{"DISPLAY", std::nullopt}});
@@ -43,3 +69,58 @@ TEST_F(Exit, AClientThatNeverReadIsNoSignal) {
     program.CloseReceiving();
     EXPECT_EQ(program.WaitForEnd(std::chrono::seconds(10)), "exit 0");
 }
+
+TEST_F(Exit, AWindowThatAnotherProgramDestroysIs255) {
+    ending_ = "exit 255";
+    Start();
+    Play("initialize\nrequest id=1 title=One\nwait window ActionRequestDialog");
+    Screen().Destroy(Screen().FindWindow("ActionRequestDialog"));
+    Play("request id=2 title=Two\nexpect exit 255");
+}
+
+TEST_F(Exit, AConnectionThatTheServerCutsIsAnOrdinaryEnd) {
+    Start();
+    Play("initialize\nrequest id=1 title=One\nwait window ActionRequestDialog");
+    Screen().KillOwner(Screen().FindWindow("ActionRequestDialog"));
+    Play("expect exit 0");
+}
+
+TEST_F(Exit, AServerWithoutAFontThatFitsIsReported) {
+    std::string const font = "5x7-ISO8859-1.pcf.gz";
+    std::filesystem::copy_file("/usr/share/fonts/X11/misc/" + font, Directory() / font);
+    std::ofstream(Directory() / "fonts.dir") << "1\n"
+                                             << font << " -misc-fixed-medium-r-normal--7-70-75-75-c-50-iso8859-1\n";
+    Start();
+    Screen().LeaveFonts(Directory());
+    Play("initialize\nrequest id=1 title=One");
+    ExpectReport("noFont (XtToolkitError)", "1");
+}
+
+struct UnshowableText {
+    char const* dialog;
+    char const* lines;
+};
+
+class Unshowable : public Exit, public ::testing::WithParamInterface<UnshowableText> {};
+
+// In the C locale, nothing but ASCII can be shown. A brand's translation counts in it.
+TEST_P(Unshowable, IsReportedByTheDialogsName) {
+    Start();
+    Play("support-file _brand.xlat \"Not Currently Available\\tIndisponible à présent\"\ninitialize");
+    Play(GetParam().lines);
+    ExpectReport(GetParam().dialog, "2");
+}
+
+INSTANTIATE_TEST_SUITE_P(Text, Unshowable,
+                         ::testing::Values(UnshowableText{"ActionRequestDialog", "request id=1 title=é"},
+                                           UnshowableText{"ActionDetailsDialog", R"(request id=1 title=One preview=é
+                                                               wait window ActionRequestDialog
+                                                               select row 1
+                                                               click form.actionDetails)"},
+                                           UnshowableText{"ConfirmationDialog", R"(request id=1 title=One confirm=é
+                                                              wait window ActionRequestDialog
+                                                              click form.takeAllActions)"},
+                                           UnshowableText{"MessageDialog", "message id=1 title=One text=é"},
+                                           UnshowableText{"QuietModeDialog",
+                                                          "request id=1 title=One\nquiet start=+1m end=+2m"}),
+                         [](auto const& of) { return of.param.dialog; });

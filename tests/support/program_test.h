@@ -32,6 +32,10 @@ class ProgramTest : public ::testing::Test {
     tools::VirtualDisplay& Display() { return display_; }
     // The document that message lines stand for.
     std::string Document(std::string_view lines) const { return player_->DocumentFor(lines); }
+    // A message that is answered without a user: an overdue action that must run.
+    std::string Overdue(int id) const {
+        return Document("request title=Overdue force deadline=-1h id=" + std::to_string(id));
+    }
     // The next answer to the byte; throws when there is none.
     std::string Receive() { return player_->Receive(std::chrono::seconds(10)); }
     std::filesystem::path const& Directory() const { return directory_.Path(); }

@@ -1,0 +1,119 @@
+#include "tests/support/program_test.h"
+#include "tools/client_messages.h"
+
+namespace {
+
+size_t const largest_payload = 2097152;
+
+// What a broken or malicious client sends: it may cost itself answers, but no accepted request is lost, and the program
+// goes on.
+class Hostile : public ProgramTest {
+  protected:
+    static std::string Repeated(std::string const& unit, size_t size) {
+        std::string text;
+        while (text.size() + unit.size() <= size) text += unit;
+        return text;
+    }
+
+    std::string NextTaken() { return tools::ReadAnswer(Receive()).fields["ID"]; }
+
+    // Returns once the program handles messages again: what came in one batch with a bad one is lost.
+    void Settle() {
+        std::optional<std::string> answer;
+        while (!answer) {
+            if (!Program().SendFrame(Overdue(++many_))) throw std::runtime_error("the program has ended");
+            do answer = Program().ReceiveFrame(std::chrono::seconds(2));
+            while (answer && tools::ReadAnswer(*answer).fields["ID"] != std::to_string(many_));
+        }
+    }
+
+    // Far more answers than the pipe holds, none of them read.
+    void LeaveAnswersUnread() {
+        Start();
+        Play("initialize");
+        std::string burst;
+        for (int id = 1; id <= many_; ++id) burst += tools::Frame(Overdue(id));
+        Program().SendBytes(burst);
+        EXPECT_TRUE(tools::WaitUntil(std::chrono::seconds(60), [this] { return Program().WaitingBytes() > 60000; }));
+        // The display is alive.
+        Play("request id=10001 title=Alive\nwait window ActionRequestDialog\nselect row 1");
+    }
+
+    int many_ = 10000;
+};
+
+}  // namespace
+
+TEST_F(Hostile, TwoMebibytesOfMarkupLoseNothing) {
+    Start();
+    Play("initialize");
+    int id = 0;
+    for (auto unit : {"<a>", "<>", "&", "<", "<a b=\"", "&#x", "<![CDATA[", "</a>", "\xff"}) {
+        Play("request title=Accepted id=" + std::to_string(++id));
+        Program().SendFrame(Repeated(unit, largest_payload));
+        Settle();
+    }
+    Play("wait window ActionRequestDialog\nclick form.takeAllActions");
+    for (int taken = 1; taken <= id; ++taken) EXPECT_EQ(NextTaken(), std::to_string(taken));
+}
+
+TEST_F(Hostile, AClientThatReadsTenThousandAnswersLateMissesNone) {
+    LeaveAnswersUnread();
+    Play("click form.takeActions");
+    for (int id = 1; id <= many_ + 1; ++id) ASSERT_EQ(NextTaken(), std::to_string(id));
+}
+
+TEST_F(Hostile, AClientThatGoesWhileAnswersWaitIsAnOrdinaryEnd) {
+    LeaveAnswersUnread();
+    Play("close\nexpect exit 0");
+}
+
+TEST_F(Hostile, TheCloseButtonIsHeardWhileAnswersWait) {
+    LeaveAnswersUnread();
+    Play("close window\nexpect exit 0");
+    Program().CloseReceiving();
+}
+
+TEST_F(Hostile, LongAndStrangeTextsAreShownAndTaken) {
+    Start({{"LC_ALL", "C.UTF-8"}});
+    Play("initialize locale");
+    std::string const strange = "\x01\x02\x08\x1b\x7f \u202eright to left\u202d \u05d0 \ufeff \U0001F600 \u0301 {x} %s";
+    for (auto const& text : {strange, std::string(500000, 'x'), Repeated("a\\n", 500000), Repeated("é ", 500000)}) {
+        std::string const title = " id=1 title=\"" + text + "\"";
+        Play("message text=\"" + text + "\"" + title + "\nwait window MessageDialog\nclick form.dismiss");
+        Play("request confirm=\"" + text + "\"" + title);
+        Play(R"(
+            wait window ActionRequestDialog
+            click form.takeAllActions
+            wait window ConfirmationDialog
+            click form.ok
+            expect ActionTaken ID=1
+            wait window ActionRequestDialog
+        )");
+    }
+    // What is not UTF-8 cannot be shown in a row, but keeps nothing from being taken.
+    Play("request id=1 title=One");
+    Settle();
+    Play("request id=2 title=\"\xc0\x80 \xed\xa0\x80 \xff\"");
+    Settle();
+    Play("click form.takeAllActions\nexpect ActionTaken ID=1\nexpect ActionTaken ID=2");
+}
+
+TEST_F(Hostile, TimesAtTheEndsOfTheirRangeNeverWrap) {
+    Start();
+    Play(R"(
+        initialize snooze remind=P106751991DT4H54S
+        message id=1 title=Goes text=a timeout=-P106751991DT4H54S
+        message id=2 title=Stays text=a timeout=P106751991DT4H54S
+        wait window Stays
+        click form.dismiss
+        request id=1 title=Late force deadline="Fri, 31 Dec 292277 23:59:59 +0000"
+        request id=2 title=Early force deadline="Mon, 01 Jan 0001 00:00:00 +0000"
+        expect ActionTaken ID=2
+        wait window ActionRequestDialog
+        click form.snoozeButton
+        expect RemindTime TimeObject=+5d
+        expect RemindInterval TimeInterval=P5D
+    )");
+    EXPECT_EQ(Screen().FindWindow("Goes"), Window(None));
+}
