@@ -35,6 +35,13 @@ class DisplayDriver {
 
     std::string Title(Window window) { return TitleOf(display_.get(), window); }
 
+    // See PropertyOf.
+    std::string ReadProperty(Window window, std::string const& name) {
+        return PropertyOf(display_.get(), window, name);
+    }
+    // The name of the window that has the keyboard, as the window manager tells.
+    std::string ActiveWindow() { return ReadProperty(root_, "_NET_ACTIVE_WINDOW"); }
+
     // See Editres::ReadResource for what that needs.
     std::string ReadResource(Window shell, std::string const& path, std::string const& resource);
 

@@ -152,6 +152,8 @@ void ScenarioPlayer::Expect(ScenarioLine const& line) {
 
 void ScenarioPlayer::WaitFor(ScenarioLine const& line) {
     if (line.Word(1) == "widget") return WaitForResource(line, LimitOf(line));
+    if (line.Word(1) == "property") return WaitForProperty(line, LimitOf(line));
+    if (line.Word(1) == "active") return WaitForActivity(line, LimitOf(line));
     if (line.Word(1) == "sensitive") return WaitForSensitivity(line, LimitOf(line));
     if (line.Word(1) == "rows") return WaitForRows(line, LimitOf(line));
     if (line.Word(1) == "text") return WaitForText(line, LimitOf(line));
@@ -169,6 +171,21 @@ void ScenarioPlayer::WaitForResource(ScenarioLine const& line, Milliseconds limi
         };
         if (!WaitUntil(limit, fits)) throw std::runtime_error("it is " + found);
     }
+}
+
+void ScenarioPlayer::WaitForProperty(ScenarioLine const& line, Milliseconds limit) {
+    if (options_.interactive) return;
+    for (auto const& value : line.values) {
+        std::string found;
+        auto fits = [&] { return Matches(found = Screen().ReadProperty(window_, value.first), value.second); };
+        if (!WaitUntil(limit, fits)) throw std::runtime_error(value.first + " is " + found);
+    }
+}
+
+void ScenarioPlayer::WaitForActivity(ScenarioLine const& line, Milliseconds limit) {
+    if (options_.interactive) return;
+    if (WaitUntil(limit, [&] { return Screen().ActiveWindow() == line.Word(2); })) return;
+    throw std::runtime_error("it is " + Screen().ActiveWindow());
 }
 
 void ScenarioPlayer::WaitForSensitivity(ScenarioLine const& line, Milliseconds limit) {

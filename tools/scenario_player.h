@@ -54,6 +54,8 @@ class ScenarioPlayer {
     void Expect(ScenarioLine const& line);
     void WaitFor(ScenarioLine const& line);
     void WaitForResource(ScenarioLine const& line, Milliseconds limit);
+    void WaitForProperty(ScenarioLine const& line, Milliseconds limit);
+    void WaitForActivity(ScenarioLine const& line, Milliseconds limit);
     void WaitForSensitivity(ScenarioLine const& line, Milliseconds limit);
     void WaitForRows(ScenarioLine const& line, Milliseconds limit);
     void WaitForText(ScenarioLine const& line, Milliseconds limit);

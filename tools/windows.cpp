@@ -1,5 +1,6 @@
 #include "tools/windows.h"
 
+#include <X11/Xatom.h>
 #include <X11/Xutil.h>
 
 namespace tools {
@@ -24,12 +25,19 @@ Family FamilyOf(Display* display, Window window) {
     return family;
 }
 
+std::string Taken(char* text) {
+    std::string copy(text ? text : "");
+    XFree(text);
+    return copy;
+}
+
+std::string Spelled(Display* display, Atom type, unsigned long value) {
+    if (type == XA_ATOM) return Taken(XGetAtomName(display, value));
+    return type == XA_WINDOW ? NameOf(display, value) : std::to_string(value);
+}
+
 bool HasName(Display* display, Window window, std::string const& name) {
-    XClassHint hint{};
-    bool matches = XGetClassHint(display, window, &hint) && hint.res_name && name == hint.res_name;
-    XFree(hint.res_name);
-    XFree(hint.res_class);
-    return matches || TitleOf(display, window) == name;
+    return NameOf(display, window) == name || TitleOf(display, window) == name;
 }
 
 Window Search(Display* display, Window parent, std::string const& name, int depth) {
@@ -52,6 +60,26 @@ void IgnoreErrors(Display* display) {
 
 Window FindTopLevel(Display* display, std::string const& name) {
     return Search(display, DefaultRootWindow(display), name, deepest_frame);
+}
+
+std::string NameOf(Display* display, Window window) {
+    XClassHint hint{};
+    XGetClassHint(display, window, &hint);
+    XFree(hint.res_class);
+    return Taken(hint.res_name);
+}
+
+std::string PropertyOf(Display* display, Window window, std::string const& property) {
+    Atom const name = XInternAtom(display, property.c_str(), False);
+    Atom type = None;
+    int format = 0;
+    unsigned long count = 0, rest = 0;
+    unsigned char* data = nullptr;
+    XGetWindowProperty(display, window, name, 0, 1 << 16, False, AnyPropertyType, &type, &format, &count, &rest, &data);
+    std::string text(reinterpret_cast<char*>(data), format == 8 ? count : 0);
+    if (format == 32 && count > 0) text = Spelled(display, type, *reinterpret_cast<unsigned long*>(data));
+    XFree(data);
+    return text;
 }
 
 std::string TitleOf(Display* display, Window window) {

@@ -22,6 +22,13 @@ Window FindTopLevel(Display* display, std::string const& name);
 // In UTF-8.
 std::string TitleOf(Display* display, Window window);
 
+// The instance name of its WM_CLASS.
+std::string NameOf(Display* display, Window window);
+
+// A property's text, or its first value: the name of an atom or of another window, otherwise a number. Empty when the window
+// has no such property.
+std::string PropertyOf(Display* display, Window window, std::string const& property);
+
 // Whether it and all its ancestors are mapped.
 bool IsOnScreen(Display* display, Window window);
 

@@ -29,6 +29,12 @@ TEST_P(Resources, OfTheInstalledExampleTakeEffect) {
 
 INSTANTIATE_TEST_SUITE_P(Place, Resources, ::testing::Values("XENVIRONMENT", "XUSERFILESEARCHPATH", "XFILESEARCHPATH"));
 
+TEST_F(Resources, OfTheCommandLineTakeEffect) {
+    Start({}, {"-xrm", "ActionRequestDialog*background: #123456"});
+    Play("initialize\nrequest id=1 title=One");
+    EXPECT_EQ(Background(), 0x123456u);
+}
+
 // The table of key sequences is a pipe that nobody writes to: who reads it waits for ever.
 TEST_F(ProgramTest, DialogsWaitForNoInputMethod) {
     auto const table = Directory() / "Compose";
