@@ -57,6 +57,7 @@ class ChildProcess {
     ~ChildProcess();
 
     void Signal(int number) const;
+    pid_t Pid() const { return pid_; }
 
     // How the program ended, as in "exit 0" or "signal 11", or "running" when it has not within `limit`.
     std::string WaitForEnd(Milliseconds limit);

@@ -33,6 +33,7 @@ class ClientProcess {
     void CloseReceiving() { receiving_.Close(); }
 
     // See ChildProcess.
+    pid_t Pid() const { return process_.Pid(); }
     std::string WaitForEnd(Milliseconds limit) { return process_.WaitForEnd(limit); }
 
   private:

@@ -8,6 +8,7 @@ packages=(
     g++ cmake ninja-build pkg-config
     libx11-dev libxt-dev libxaw7-dev                          # the program
     libgtest-dev libgmock-dev libxtst-dev libpng-dev          # its tests
+    libxres-dev                                               # its long runs
     xvfb openbox locales xfonts-base                          # the displays and languages that they run with
     python3                                                   # the translators' tools
     libbenchmark-dev libexpat1-dev libpugixml-dev             # its benchmarks

@@ -1,4 +1,5 @@
-// Text decodes whole or in pieces to the same; what decodes and encodes again comes back.
+// Text decodes whole or in pieces to the same, and as the C library decodes it; what encodes again comes back.
+#include <algorithm>
 #include <clocale>
 #include <vector>
 
@@ -35,8 +36,10 @@ void Fuzz(std::string_view input) {
     std::vector<std::uint16_t> units;
     for (auto rest = input; !rest.empty();) units.push_back(TakeInteger<std::uint16_t>(rest));
     CheckDecoding(UStringRef<UTF16>(units.data(), units.data() + units.size()));
-    AutoUString<Local8Bit> local, back;
-    if (!Succeeds([&] { local = UnixPlatform::ToLocal8Bit(Text(input)); })) return;
-    if (Succeeds([&] { back = UnixPlatform::ToLocal8Bit(UnixPlatform::ToUTF8(local.Ref()).Ref()); }))
-        Require(back == local);
+    AutoUString<UTF32> native;
+    std::string_view const text = input.substr(0, input.find('\0'));
+    UStringRef<Local8Bit> const local(text.data(), text.data() + text.size());
+    if (!Succeeds([&] { native = UnixPlatform::ToNativeUnicode(local); })) return;
+    if (std::any_of(native.begin(), native.end(), [](UTF32::Unit unit) { return unit > 0x10FFFF; })) return;
+    Require(Transcode<UTF32>(Text(text)) == native && UnixPlatform::FromNativeUnicode(native).Ref() == local);
 }

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <iterator>
+#include <random>
+#include <set>
+#include <string>
+
+#include "tools/client_process.h"
+#include "tools/scenario_line.h"
+#include "tools/waiting.h"
+
+namespace tools {
+
+// A client that sends whatever clients may send, in any order, now and then what none should, and that keeps account of
+// the answers. All its texts can be shown in a UTF-8 locale.
+//
+// An answer to nothing, one that comes twice, an error report and a forced action that is not taken in time throw
+// std::runtime_error.
+class RandomClient {
+  public:
+    // Starts the program.
+    RandomClient(Launch const& launch, std::string base_directory, unsigned seed);
+
+    // The first message, with settings at random.
+    void Initialize();
+    // Sends something, mostly one message, and takes the answers that are there.
+    void SendAnything();
+    // Sends a forced action whose deadline has passed, which quiet mode does not hold up.
+    void SendOverdue();
+    // Sends a request whose title cannot be shown: the program reports that and ends.
+    void SendUnshowable();
+    // Waits for the forced actions and withdraws everything that is open. Some seconds later nothing is on the screen.
+    void Settle();
+    void TakeAnswers();
+
+    ClientProcess& Program() { return program_; }
+    // Not negative, below `limit`.
+    int Roll(int limit) { return std::uniform_int_distribution(0, limit - 1)(random_); }
+    // The messages sent and the answers received so far.
+    std::string Figures() const;
+
+  private:
+    using ID = unsigned long;
+
+    bool Chance(int percent) { return Roll(100) < percent; }
+    template <class Choices>
+    auto const& AnyOf(Choices const& choices) {
+        return *std::next(std::begin(choices), Roll(static_cast<int>(std::size(choices))));
+    }
+    // Whether the program reads everything that is sent now.
+    bool EachCounts() const;
+    void Send(std::string const& document);
+    void SendHostile();
+    std::string Anything();
+    std::string Request();
+    std::string Message();
+    std::string Removal();
+    std::string Quiet();
+    std::string Text();
+    void CheckAnswer(std::string const& document);
+
+    std::mt19937 random_;
+    std::string base_directory_;
+    ClientProcess program_;
+    ID last_id_ = 0;
+    std::set<ID> open_;          // may stand in the program; answered and withdrawn ones do not
+    std::set<ID> answerable_;    // actions without an answer, withdrawn ones included: theirs may be under way
+    std::set<ID> owed_;          // forced actions that will be taken by themselves
+    Clock::time_point hostile_;  // when the program was last sent what makes it drop what comes along with it
+    bool may_report_ = false;    // that something cannot be shown
+    int sent_ = 0;
+    int answers_ = 0;
+};
+
+}  // namespace tools
