@@ -221,6 +221,11 @@ void DisplayDriver::SendText(Window window, std::string const& text) {
     SendClientMessage(display_.get(), window, message);
 }
 
+unsigned long DisplayDriver::PixelIn(Window window, int x, int y) {
+    Area area = AreaOf(display_.get(), window);
+    return PixelAt(display_.get(), area.x + x, area.y + y);
+}
+
 void DisplayDriver::Screenshot(std::filesystem::path const& file, Window window) {
     Window parent = window;
     for (; parent != None && parent != root_; parent = ParentOf(display_.get(), parent)) window = parent;

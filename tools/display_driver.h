@@ -75,6 +75,8 @@ class DisplayDriver {
     // Sends `text`, at most 20 bytes of it, as a message of a type that no program knows.
     void SendText(Window window, std::string const& text);
 
+    // What the screen shows at a place in a window.
+    unsigned long PixelIn(Window window, int x, int y);
     // Of the window with its frame, or of the whole screen when `window` is 0.
     void Screenshot(std::filesystem::path const& file, Window window);
 

@@ -23,7 +23,7 @@ class Actions : public ProgramTest {
 TEST_F(Actions, NothingIsTakenOrCancelledWithoutBeingAllowed) {
     Play(R"(
         request id=1 title=May cancellable
-        request id=2 title=Must
+        request id=18446744073709551615 title=Must
         wait window ActionRequestDialog
         press form.takeActions
         press form.cancelAction
@@ -34,7 +34,7 @@ TEST_F(Actions, NothingIsTakenOrCancelledWithoutBeingAllowed) {
         click form.cancelAction
         expect ActionTaken ID=1 IsCancel=true
         click form.takeActions
-        expect ActionTaken ID=2 IsCancel=false
+        expect ActionTaken ID=18446744073709551615 IsCancel=false
     )");
 }
 

@@ -38,25 +38,22 @@ TEST_F(Initialization, EmptiesTheBaseDirectoryAndFillsIt) {
         initialize
         open
         wait window ActionRequestDialog
+        support-file late.txt ""
+        initialize
     )");
+    // It happens once.
+    Program().SendFrame(Overdue(1));
+    Play("expect ActionTaken ID=1");
     EXPECT_EQ(NamesInBase(), (Names{"page.html", "empty.txt"}));
     EXPECT_EQ(Read(BaseDirectory() / "page.html"), "<p>second</p>");
     EXPECT_EQ(Read(Directory() / "outside" / "kept.txt"), "kept");
 }
 
-TEST_F(Initialization, HappensOnceAndMakesTheDirectoryWithItsParents) {
-    Start();
-    Play("support-file a.txt a\ninitialize base=" + (BaseDirectory() / "new").string());
-    Play("initialize\nopen\nwait window ActionRequestDialog\nrequest id=1 title=Overdue force deadline=-1h");
-    Play("expect ActionTaken ID=1");
-    EXPECT_EQ(NamesInBase(), Names{"new"});
-    EXPECT_EQ(Read(BaseDirectory() / "new" / "a.txt"), "a");
-}
-
 TEST_F(Initialization, RequestsBeforeItAndBesideItAreShown) {
     Start();
     Play("request id=1 title=Before");
-    Program().SendFrame(Document("initialize\nrequest id=2 title=Dropped"));
+    auto const base = BaseDirectory() / "made" / "with its parents";
+    Program().SendFrame(Document("initialize base=\"" + base.string() + "\"\nrequest id=2 title=Dropped"));
     Play(R"(
         request id=3 title=Beside
         wait window ActionRequestDialog
@@ -64,6 +61,7 @@ TEST_F(Initialization, RequestsBeforeItAndBesideItAreShown) {
         expect ActionTaken ID=1
         expect ActionTaken ID=3
     )");
+    EXPECT_TRUE(std::filesystem::is_directory(base));
 }
 
 struct FailingCase {

@@ -1,6 +1,5 @@
 #include "tests/support/program_test.h"
 
-#include <X11/Xutil.h>
 #include <sys/stat.h>
 
 class Resources : public ProgramTest, public ::testing::WithParamInterface<char const*> {
@@ -9,12 +8,7 @@ class Resources : public ProgramTest, public ::testing::WithParamInterface<char 
     unsigned long Background() {
         Window const window = Screen().WaitForWindow("ActionRequestDialog", std::chrono::seconds(5));
         Screen().WaitUntilDrawn(window);
-        ::Display* display = XOpenDisplay(Display().Name().c_str());
-        XImage* edge = XGetImage(display, window, 1, 1, 1, 1, AllPlanes, ZPixmap);
-        unsigned long const colour = XGetPixel(edge, 0, 0) & 0xffffff;
-        XDestroyImage(edge);
-        XCloseDisplay(display);
-        return colour;
+        return Screen().PixelIn(window, 1, 1) & 0xffffff;
     }
 };
 
