@@ -269,7 +269,7 @@ TEST_F(DialogsTest, AConfirmationsButtonsStayOnTheDisplayWhateverItsTitle) {
 
 TEST_F(DialogsTest, APreviewShowsTheScriptOrTheLastOneShown) {
     Pend(1, [](ActionRequest& action) { action.preview = SharedUString<UTF8>(UStringRef<UTF8>("echo")); });
-    for (unsigned long long id : {0, 77}) {
+    for (unsigned long long id : {0ull, 77ull}) {
         ShowActionDetailsDialog(id);
         ShowActionDetailsDialog(id);
         auto const shells = Shells("ActionDetailsDialog");
