@@ -28,6 +28,7 @@ namespace {
 
 constexpr int kGap = 4;  // Pixels between neighbours, the form's own default.
 constexpr int kSnoozeListWidth = 400;
+constexpr char const* kName = "ActionRequestDialog";
 
 struct Dialog {
     Widget shell = nullptr;
@@ -43,9 +44,9 @@ struct Dialog {
 
     bool enabled = false;
     bool update_wanted = false;
-    std::size_t checked_actions = 0;      // How many of the pending actions have titles known to be showable.
     std::vector<unsigned long long> ids;  // Of the rows, in their order.
     int selected_row = -1;
+    int highlighted_row = -1;  // What the last refresh or press left highlighted.
     std::vector<SnoozeChoice> choices;
     int selected_choice = -1;
     Instant earliest_deadline{INT64_MAX};
@@ -86,22 +87,6 @@ void SnoozePressed() {
 
 // ---- Contents
 
-void RebuildRows() {
-    auto rows = MakeActionRows(actions);
-    dialog.checked_actions = actions.size();
-    std::vector<unsigned long long> ids;
-    for (auto const& action : actions) ids.push_back(action.id);
-    dialog.ids = std::move(ids);
-    dialog.action_list.ShowRows(std::move(rows));
-}
-
-// The message that brings an action with a title that cannot be shown is the one to fail.
-void CheckNewTitles() {
-    auto const first = std::min(dialog.checked_actions, actions.size());
-    dialog.checked_actions = actions.size();
-    for (auto const& action : actions.Requests().subspan(first)) MakeLocalString<UTF8>(action.title);
-}
-
 void ForgetSelectionBeyond(std::size_t rows) {
     if (std::cmp_greater_equal(dialog.selected_row, rows)) dialog.selected_row = -1;
 }
@@ -109,6 +94,18 @@ void ForgetSelectionBeyond(std::size_t rows) {
 void HighlightSelection() {
     ForgetSelectionBeyond(dialog.ids.size());
     dialog.action_list.Highlight(dialog.selected_row);
+    dialog.highlighted_row = dialog.selected_row;
+}
+
+// A list that would look the same is left alone: a countdown refreshes every second, and each time would take the row
+// from under a pressed button and scroll the reader back.
+void RebuildRows() {
+    auto rows = MakeActionRows(actions);
+    dialog.ids.clear();
+    for (auto const& action : actions) dialog.ids.push_back(action.id);
+    if (dialog.highlighted_row == dialog.selected_row && dialog.action_list.Shows(rows)) return;
+    dialog.action_list.ShowRows(std::move(rows));
+    HighlightSelection();
 }
 
 // The user's choice goes with each refresh: meant, the proposal is what counts until snoozing is pressed.
@@ -186,18 +183,32 @@ void RefreshContents() {
     LayOut();
 }
 
+// A text that cannot be shown would stop every refresh to come: the dialog would stand still, over actions that nobody
+// sees, and the client would not know. It ends like one that cannot be built.
+template <class F>
+void RefreshOrReport(F&& refresh) {
+    try {
+        refresh();
+    } catch (NoSelectedAction const&) {
+        throw;
+    } catch (...) {
+        ReportUnbuildableDialog(kName);
+    }
+}
+
 void Refresh() {
     dialog.update_wanted = false;
-    RebuildRows();
-    HighlightSelection();
-    RefreshContents();
+    RefreshOrReport([] {
+        RebuildRows();
+        RefreshContents();
+    });
 }
 
 void RowPressed(Widget, XEvent const&) {
     if (!dialog.shell || !dialog.enabled) return;
     dialog.selected_row = HighlightedRow(dialog.action_list.List());
     HighlightSelection();
-    RefreshContents();
+    RefreshOrReport(RefreshContents);
 }
 
 // ---- Building
@@ -226,6 +237,7 @@ void CreateActionPart(Widget form) {
     Widget header = CreateLabel(form, "actionListLabel", MakeActionListHeader(),
                                 {{XtNfromVert, dialog.description}, {XtNvertDistance, 10}});
     dialog.action_list.Create(form, "viewport", 485, 100, {{XtNfromVert, header}});
+    dialog.highlighted_row = -1;
     // Overridden, not replaced: the list's own translations select the row.
     static XtTranslations const pressed = RowTranslations();
     XtOverrideTranslations(dialog.action_list.List(), pressed);
@@ -263,7 +275,7 @@ void AnchorAll(Widget form) {
 // Everything has its text before the windows exist, and the final layout before they are seen.
 void Build() {
     auto const title = ControlLiteral(LocalizedStrings::ActionRequestTitle());
-    dialog.shell = CreateDialogShell("ActionRequestDialog", title.c_str());
+    dialog.shell = CreateDialogShell(kName, title.c_str());
     Widget form = Create(dialog.shell, "form", formWidgetClass);
     CreateActionPart(form);
     CreateActionButtons(form);
@@ -292,7 +304,7 @@ void ShowActionRequestDialog(bool, TimeInterval const& remindInterval, bool snoo
     if (!display || dialog.shell) return;
     dialog.default_interval = remindInterval;
     dialog.snoozable = snoozable;
-    BuildOrReport("ActionRequestDialog", Build);
+    BuildOrReport(kName, Build);
 }
 
 void HideActionRequestDialog() {
@@ -305,7 +317,6 @@ void UpdateActionRequestDialog() {
     dialog.update_wanted = true;
     // At once: a list that is emptied and filled again before the refresh has no selection.
     ForgetSelectionBeyond(actions.size());
-    CheckNewTitles();
 }
 
 void RefreshActionRequestDialog() {
@@ -321,7 +332,7 @@ void EnableActionRequestDialog() {
 
 void DisableActionRequestDialog() {
     if (!dialog.shell) return;
-    // A text that cannot be shown must not leave the decisions open.
+    // Whatever becomes of the refresh, the decisions are closed.
     Guarded(RefreshActionRequestDialog);
     SetAllSensitive(false);
     dialog.enabled = false;

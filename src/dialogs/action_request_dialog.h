@@ -18,12 +18,12 @@ void ShowActionRequestDialog(bool, TimeInterval const& remindInterval, bool snoo
 void HideActionRequestDialog();
 
 // Asks for the pending list to be read again and shown; ignored while the dialog is disabled, so that the list does not
-// change under a decision. Throws what the conversion of a new action's title throws.
+// change under a decision.
 void UpdateActionRequestDialog();
 
 // Carries out what was asked for since the last call: once a tick, however many requests came in it, so that a burst of
-// them costs no more than its size. Throws NoSelectedAction (action_request_contents.h), and what the conversion of texts
-// throws.
+// them costs no more than its size. Throws NoSelectedAction (action_request_contents.h). A text that cannot be shown is
+// reported like a dialog that cannot be built, and ends the process.
 void RefreshActionRequestDialog();
 
 // Lets the user decide, or not: all buttons and both lists together. Enabling brings the dialog up to date.

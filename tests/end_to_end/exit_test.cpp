@@ -97,6 +97,7 @@ TEST_F(Exit, AServerWithoutAFontThatFitsIsReported) {
 }
 
 struct UnshowableText {
+    char const* text;
     char const* dialog;
     char const* lines;
 };
@@ -111,16 +112,31 @@ TEST_P(Unshowable, IsReportedByTheDialogsName) {
     ExpectReport(GetParam().dialog, "2");
 }
 
-INSTANTIATE_TEST_SUITE_P(Text, Unshowable,
-                         ::testing::Values(UnshowableText{"ActionRequestDialog", "request id=1 title=é"},
-                                           UnshowableText{"ActionDetailsDialog", R"(request id=1 title=One preview=é
-                                                               wait window ActionRequestDialog
-                                                               select row 1
-                                                               click form.actionDetails)"},
-                                           UnshowableText{"ConfirmationDialog", R"(request id=1 title=One confirm=é
-                                                              wait window ActionRequestDialog
-                                                              click form.takeAllActions)"},
-                                           UnshowableText{"MessageDialog", "message id=1 title=One text=é"},
-                                           UnshowableText{"QuietModeDialog",
-                                                          "request id=1 title=One\nquiet start=+1m end=+2m"}),
-                         [](auto const& of) { return of.param.dialog; });
+INSTANTIATE_TEST_SUITE_P(
+    Text, Unshowable,
+    ::testing::Values(UnshowableText{"TitleOfTheFirst", "ActionRequestDialog", "request id=1 title=é"},
+                      UnshowableText{"MalformedTitle", "ActionRequestDialog", "request id=1 title=\xff"},
+                      UnshowableText{"TitleOfTheNext", "ActionRequestDialog", R"(
+                          request id=1 title=One
+                          wait window ActionRequestDialog
+                          request id=2 title=é)"},
+                      UnshowableText{"DescriptionOfTheSelected", "ActionRequestDialog", R"(
+                          request id=1 description=é title="As wide as the list, so that its middle is in a row"
+                          request id=2 description=é
+                          request id=3 description=é
+                          request id=4 description=é
+                          request id=5 description=é
+                          wait window ActionRequestDialog
+                          press form.viewport.List)"},
+                      UnshowableText{"Script", "ActionDetailsDialog", R"(
+                          request id=1 title=One preview=é
+                          wait window ActionRequestDialog
+                          select row 1
+                          click form.actionDetails)"},
+                      UnshowableText{"Question", "ConfirmationDialog", R"(
+                          request id=1 title=One confirm=é
+                          wait window ActionRequestDialog
+                          click form.takeAllActions)"},
+                      UnshowableText{"Message", "MessageDialog", "message id=1 title=One text=é"},
+                      UnshowableText{"Notice", "QuietModeDialog", "request id=1 title=One\nquiet start=+1m end=+2m"}),
+    [](auto const& of) { return of.param.text; });

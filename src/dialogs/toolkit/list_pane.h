@@ -20,6 +20,7 @@ class ListPane {
 
     // Shows these rows. Nothing is highlighted afterwards.
     void ShowRows(std::vector<AutoNullTerminated<char>> rows);
+    bool Shows(std::vector<AutoNullTerminated<char>> const& rows) const { return rows_.AreSameAs(rows); }
     // Highlights a row and scrolls it into view; anything but one of the rows is ignored.
     void Highlight(int row);
 

@@ -4,6 +4,7 @@
 #include <X11/Xaw/ListP.h>
 
 #include <algorithm>
+#include <cstring>
 #include <utility>
 
 namespace {
@@ -28,6 +29,11 @@ void ListRows::Show(Widget list, std::vector<AutoNullTerminated<char>> rows) {
     XtManageChild(list);
     rows_ = std::move(rows);
     array_ = std::move(array);
+}
+
+bool ListRows::AreSameAs(std::vector<AutoNullTerminated<char>> const& rows) const {
+    return std::equal(rows_.begin(), rows_.end(), rows.begin(), rows.end(),
+                      [](auto const& a, auto const& b) { return std::strcmp(a.c_str(), b.c_str()) == 0; });
 }
 
 void HighlightRow(Widget list, int row, std::size_t count) {

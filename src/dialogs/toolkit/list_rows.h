@@ -18,6 +18,8 @@ class ListRows {
     void Show(Widget list, std::vector<AutoNullTerminated<char>> rows);
 
     std::size_t Count() const { return rows_.size(); }
+    // Whether the list shows exactly these rows, none left out.
+    bool AreSameAs(std::vector<AutoNullTerminated<char>> const& rows) const;
 
   private:
     std::vector<AutoNullTerminated<char>> rows_;
