@@ -1,4 +1,5 @@
-// What reads as a duration writes, every duration writes, and both read back.
+// What reads as a duration writes, every duration writes, and both read back; a date is written as it was read.
+#include "messages/xml_date_time.h"
 #include "messages/xml_duration.h"
 #include "tests/fuzz/fuzz.h"
 
@@ -9,6 +10,9 @@ static void RequireThatItComesBack(TimeInterval interval) {
 
 void Fuzz(std::string_view input) {
     TimeInterval interval;
+    DateRecord date;
     if (Succeeds([&] { interval = XMLDurationToTimeInterval(Text(input)); })) RequireThatItComesBack(interval);
+    if (Succeeds([&] { date = XMLDateToDateRecord(Text(input)); }))
+        Require(DateRecordToXMLDate(date).AsStringView() == input);
     RequireThatItComesBack(TimeInterval(TakeInteger<long long>(input)));
 }

@@ -5,29 +5,19 @@
 #include "channel/unix_pipe.h"
 #include "tests/fuzz/fuzz.h"
 
-// Killed before its start: its threads end at once, and all reading is left to the caller.
-static UnixPipe& PipeOn(int descriptor) {
-    static auto& queue = *new UIMessageQueue;
-    static auto& pipe = *new UnixPipe(queue, queue);
-    pipe.AddReference();
-    pipe.Kill();
-    Require(pipe.Start(descriptor, 0));
-    return pipe;
-}
-
 void Fuzz(std::string_view input) {
     static int const file = memfd_create("frames", 0);
-    static UnixPipe& pipe = PipeOn(file);
-    auto const size = static_cast<ssize_t>(input.size());
-    Require(ftruncate(file, 0) == 0 && pwrite(file, input.data(), input.size(), 0) == size && lseek(file, 0, 0) == 0);
-    while (true) {
-        UIMessage message;
-        bool const arrived = Succeeds([&] { pipe.ReadMessageFromPipe(message); });
-        bool const has_header = input.size() >= 4;
+    static auto& queue = *new UIMessageQueue;
+    static auto& pipe = *new UnixPipe(queue, queue);
+    // Killed before its start: its threads end at once, and all reading is left to the target.
+    static bool const started = (pipe.AddReference(), pipe.Kill(), pipe.Start(file, 0));
+    Require(started && ftruncate(file, 0) == 0 && lseek(file, 0, SEEK_SET) == 0);
+    Require(pwrite(file, input.data(), input.size(), 0) == static_cast<ssize_t>(input.size()));
+    for (UIMessage message; Succeeds([&] { pipe.ReadMessageFromPipe(message); });) {
+        Require(input.size() >= 4);
         std::size_t const length = __builtin_bswap32(TakeInteger<std::uint32_t>(input));
-        Require(arrived == (has_header && length <= input.size()));
-        if (!arrived) return;
-        Require(message.Text() == Text(input.substr(0, length)));
+        Require(message.Text() == Text(input.substr(0, length)) && message.Text().size() == length);
         input.remove_prefix(length);
     }
+    Require(input.size() < 4 || __builtin_bswap32(TakeInteger<std::uint32_t>(input)) > input.size());
 }
