@@ -96,9 +96,10 @@ void PostponeUntil(Instant time) {
     SendToClient(ClientWriter(), RemindTime{TimeObject(time, TimeZone())});
 }
 
-// The dialog stays hidden: the button has hidden it.
+// The dialog stays hidden: the button has hidden it. Over an empty list that button closes: an action that came after
+// it was pressed is not put off.
 void Snooze(UICommand const& command) {
-    if (actions.empty()) return;
+    if (actions.empty() || command.NothingWasPending()) return;
     auto interval = TimeInterval::Minutes(command.Minutes());
     Instant const deadline = Instant(0) + TimeInterval::Seconds(command.DeadlineSeconds());
     PostponeUntil((command.Minutes() > 0 ? Instant::Now() : deadline) + interval);

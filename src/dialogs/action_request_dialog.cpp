@@ -74,7 +74,7 @@ void DecideAboutSelected(UICommandType decision) {
 }
 
 // Hides without disabling: the dialog comes back enabled. "Close", over an empty list, snoozes as well when a choice is
-// selected, and the command then finds nothing to put off: meant.
+// selected, and the command then puts nothing off: meant.
 void SnoozePressed() {
     if (dialog.selected_choice >= 0) {
         int const minutes = dialog.choices[static_cast<std::size_t>(dialog.selected_choice)].minutes;

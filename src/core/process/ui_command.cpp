@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "core/process/process_state.h"
+
 // Never destroyed, so that it may be used at any moment of the exit.
 UICommandQueue& uiCommandQ = *new UICommandQueue;
 
@@ -17,5 +19,5 @@ void UICommandQueue::ReadMessages(FiFoQueue<std::unique_ptr<UICommand>>& out) {
 
 void QueueCommand(UICommandType type, unsigned long long actionID, int minutes, long long deadlineSeconds) {
     auto seconds = static_cast<std::uint32_t>(deadlineSeconds);
-    uiCommandQ.WriteMessage(std::make_unique<UICommand>(type, actionID, minutes, seconds));
+    uiCommandQ.WriteMessage(std::make_unique<UICommand>(type, actionID, minutes, seconds, actions.empty()));
 }

@@ -23,8 +23,13 @@ enum class UICommandType : std::uint32_t {
 // One decision on its way from a dialog to the next tick.
 class UICommand {
   public:
-    UICommand(UICommandType type, unsigned long long actionID, std::int32_t minutes, std::uint32_t deadlineSeconds)
-        : type_(type), action_id_(actionID), minutes_(minutes), deadline_seconds_(deadlineSeconds) {}
+    UICommand(UICommandType type, unsigned long long actionID, std::int32_t minutes, std::uint32_t deadlineSeconds,
+              bool nothingPending = false)
+        : type_(type),
+          action_id_(actionID),
+          minutes_(minutes),
+          deadline_seconds_(deadlineSeconds),
+          nothing_pending_(nothingPending) {}
     virtual ~UICommand() = default;
 
     UICommandType Type() const { return type_; }
@@ -34,12 +39,15 @@ class UICommand {
     std::int32_t Minutes() const { return minutes_; }
     // Of a snooze: the earliest deadline in seconds since 1970.
     std::uint32_t DeadlineSeconds() const { return deadline_seconds_; }
+    // Whether no action was pending at the time of the decision: what has come since it was not made about.
+    bool NothingWasPending() const { return nothing_pending_; }
 
   private:
     UICommandType type_;
     unsigned long long action_id_;
     std::int32_t minutes_;
     std::uint32_t deadline_seconds_;
+    bool nothing_pending_;
 };
 
 // The decisions that wait for the next tick, first in first out. Any thread may call; each call holds the lock for one
@@ -58,6 +66,6 @@ class UICommandQueue {
 
 extern UICommandQueue& uiCommandQ;
 
-// Appends a command to `uiCommandQ`. Only the low 32 bits of `deadlineSeconds` are kept, and read back as an unsigned
-// number: that is meant, the field has that width.
+// Appends a command to `uiCommandQ`, decided over the pending list as it stands. Main thread only. Only the low 32 bits
+// of `deadlineSeconds` are kept, and read back as an unsigned number: that is meant, the field has that width.
 void QueueCommand(UICommandType type, unsigned long long actionID, int minutes, long long deadlineSeconds);
