@@ -9,6 +9,7 @@
 #include "core/process/ui_command.h"
 #include "core/process/x_connection.h"
 #include "dialogs/toolkit/callbacks.h"
+#include "dialogs/toolkit/dialog_shell.h"
 
 namespace {
 
@@ -25,4 +26,5 @@ void CreateHiddenWindow() {
                                    32, XtNheight, 32, XtNmappedWhenManaged, False, nullptr);
     XtRealizeWidget(qenHidden);
     OnNonmaskableEvent(qenHidden, HiddenWindowEventHandler);
+    LeadDialogShells();
 }

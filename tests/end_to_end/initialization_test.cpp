@@ -57,6 +57,7 @@ TEST_F(Initialization, RequestsBeforeItAndBesideItAreShown) {
     Play(R"(
         request id=3 title=Beside
         wait window ActionRequestDialog
+        wait property WM_CLIENT_LEADER=QENClientUIHiddenWindow
         click form.takeAllActions
         expect ActionTaken ID=1
         expect ActionTaken ID=3

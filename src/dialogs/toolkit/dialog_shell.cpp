@@ -5,10 +5,14 @@
 #include <X11/StringDefs.h>
 
 #include <utility>
+#include <vector>
 
 #include "core/process/exit_cleanup.h"
 #include "core/process/x_connection.h"
 #include "dialogs/toolkit/widgets.h"
+
+// Those made before the hidden shell.
+static std::vector<Widget>& leaderless = *new std::vector<Widget>;
 
 Widget CreateDialogShell(char const* name, char const* title) {
     static XtTranslations const closing = XtParseTranslationTable("<Message>WM_PROTOCOLS: SystemMenuClose()\n");
@@ -19,7 +23,12 @@ Widget CreateDialogShell(char const* name, char const* title) {
                            title, XtNmappedWhenManaged, False, XtNallowShellResize, True, XtNinput, True, XtNwindowRole,
                            name, XtNclientLeader, qenHidden, "openIm", False, nullptr);
     XtOverrideTranslations(shell, closing);
+    if (!qenHidden) leaderless.push_back(shell);
     return shell;
+}
+
+void LeadDialogShells() {
+    for (Widget shell : std::exchange(leaderless, {})) SetResources(shell, {{XtNclientLeader, qenHidden}});
 }
 
 void SetDialogTitle(Widget shell, char const* title) {
@@ -40,7 +49,10 @@ void PresentDialogShell(Widget shell, WindowTraits const& traits) {
 }
 
 void DestroyDialogShell(Widget& shell) {
-    if (Widget dying = std::exchange(shell, nullptr)) XtDestroyWidget(dying);
+    Widget dying = std::exchange(shell, nullptr);
+    if (!dying) return;
+    std::erase(leaderless, dying);
+    XtDestroyWidget(dying);
 }
 
 void CenterDialogOnDisplay(Widget shell) {

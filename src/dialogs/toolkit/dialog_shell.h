@@ -11,6 +11,9 @@ union _XEvent;
 // are copied.
 Widget CreateDialogShell(char const* name, char const* title);
 
+// Makes the hidden shell the leader (ICCCM 4.1.11) of the shells that were there before it; later ones have it at once.
+void LeadDialogShells();
+
 void SetDialogTitle(Widget shell, char const* title);
 
 // Makes the shell's windows, not yet visible, so that everything in it has its size.
