@@ -2,6 +2,7 @@
 #include <X11/Shell.h>
 #include <X11/StringDefs.h>
 #include <X11/Xaw/List.h>
+#include <sys/time.h>
 
 #include <algorithm>
 #include <clocale>
@@ -23,6 +24,7 @@
 #include "dialogs/toolkit/scroll_bars.h"
 #include "dialogs/toolkit/widgets.h"
 #include "tools/virtual_display.h"
+#include "tools/waiting.h"
 
 #undef Bool
 #undef None
@@ -31,6 +33,15 @@
 #include <gtest/gtest.h>
 
 // The dialogs in process on a virtual display, without a window manager.
+
+// The wall clock as the toolkit reads it, set back by so many seconds.
+static time_t set_back = 0;
+extern "C" int gettimeofday(timeval* now, void*) noexcept {
+    timespec clock;
+    clock_gettime(CLOCK_REALTIME, &clock);
+    *now = {clock.tv_sec - set_back, clock.tv_nsec / 1000};
+    return 0;
+}
 
 namespace {
 
@@ -332,6 +343,19 @@ TEST_F(DialogsTest, AnUpdateDecidesWhetherAMessageEnds) {
     ASSERT_EQ(Shells("MessageDialog").size(), 1u);
     EXPECT_EQ(Text(Shells("MessageDialog")[0], XtNtitle), "c");
     RemoveMessageDialog(1);
+}
+
+TEST_F(DialogsTest, WhatIsRepeatedGoesOnWhenTheClockIsSetBack) {
+    static int runs = 0;
+    RunEvery(20, [] { ++runs; });
+    for (int hours : {0, 1, 2, 0}) {
+        set_back = hours * 3600;
+        int const before = runs;
+        EXPECT_TRUE(tools::WaitUntil(std::chrono::seconds(10), [&] {
+            while (XtAppPending(app_context)) XtAppProcessEvent(app_context, XtIMAll);
+            return runs > before + 1;
+        }));
+    }
 }
 
 }  // namespace

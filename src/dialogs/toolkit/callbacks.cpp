@@ -3,6 +3,7 @@
 #include <X11/Intrinsic.h>
 #include <X11/StringDefs.h>
 #include <X11/Xaw/List.h>
+#include <sys/timerfd.h>
 
 #include <memory>
 
@@ -26,12 +27,31 @@ auto* Closure(Widget widget, std::function<void(Values...)> body) {
 struct Repetition {
     unsigned long milliseconds;
     void (*body)();
+    XtIntervalId next = 0;
+    // Readable when the next run is overdue. The toolkit's time-outs go by the wall clock, and one that is set back by
+    // an hour would hold them up for that long.
+    int overdue = timerfd_create(CLOCK_MONOTONIC, TFD_NONBLOCK | TFD_CLOEXEC);
 };
+
+void RunAgain(XtPointer data, XtIntervalId*);
+
+// Sets the watch anew, which also makes it unreadable. Without a descriptor for it there is none.
+void AwaitNextRun(Repetition& repetition) {
+    repetition.next = XtAppAddTimeOut(app_context, repetition.milliseconds, RunAgain, &repetition);
+    auto const limit = static_cast<long>(2 * repetition.milliseconds);
+    itimerspec const once = {{}, {limit / 1000, limit % 1000 * 1'000'000}};
+    timerfd_settime(repetition.overdue, 0, &once, nullptr);
+}
 
 void RunAgain(XtPointer data, XtIntervalId*) {
     auto* repetition = static_cast<Repetition*>(data);
     Guarded(repetition->body);
-    XtAppAddTimeOut(app_context, repetition->milliseconds, RunAgain, repetition);
+    AwaitNextRun(*repetition);
+}
+
+void RunOverdue(XtPointer data, int*, XtInputId*) {
+    XtRemoveTimeOut(static_cast<Repetition*>(data)->next);
+    RunAgain(data, nullptr);
 }
 
 }  // namespace
@@ -58,7 +78,11 @@ void OnNonmaskableEvent(Widget widget, std::function<void(XEvent const&)> body) 
 
 void RunEvery(unsigned long milliseconds, void (*body)()) {
     // Lives as long as the process, like the timer.
-    XtAppAddTimeOut(app_context, milliseconds, RunAgain, new Repetition{milliseconds, body});
+    auto* repetition = new Repetition{milliseconds, body};
+    if (repetition->overdue >= 0)
+        XtAppAddInput(app_context, repetition->overdue, reinterpret_cast<XtPointer>(XtInputReadMask), RunOverdue,
+                      repetition);
+    AwaitNextRun(*repetition);
 }
 
 void AddAction(char const* name, ActionProcedure procedure) {
