@@ -4,18 +4,34 @@
 #include <X11/StringDefs.h>
 #include <X11/Xaw/AsciiText.h>
 
+#include <string_view>
+
 #include "dialogs/toolkit/widgets.h"
+#include "foundation/text/local_encoding.h"
+
+static_assert(sizeof(UTF32::Unit) == sizeof(wchar_t));
 
 Widget CreateReadOnlyText(Widget parent, char const* name, char const* text, Arguments arguments) {
-    Arguments common = {{XtNtype, XawAsciiString},  {XtNstring, text},
-                        {XtNeditType, XawtextRead}, {XtNscrollVertical, XawtextScrollAlways},
-                        {XtNwrap, XawtextWrapWord}, {XtNdisplayCaret, false},
+    Arguments common = {{XtNtype, XawAsciiString},
+                        {XtNscrollVertical, XawtextScrollAlways},
+                        {XtNwrap, XawtextWrapWord},
+                        {XtNdisplayCaret, false},
                         {XtNinternational, true}};
-    return Create(parent, name, asciiTextWidgetClass, common, arguments);
+    Widget readOnlyText = Create(parent, name, asciiTextWidgetClass, common, arguments);
+    SetText(readOnlyText, text);
+    return readOnlyText;
 }
 
+// As an edit with wide characters: of the string resource, and of an edit with others, the toolkit makes copies that it
+// never frees.
 void SetText(Widget readOnlyText, char const* text) {
-    SetResources(readOnlyText, {{XtNstring, text}});
+    std::string_view const bytes(text);
+    auto const wide = UnixPlatform::ToNativeUnicode({bytes.data(), bytes.data() + bytes.size()});
+    XawTextBlock block{0, static_cast<int>(wide.size()),
+                       reinterpret_cast<char*>(const_cast<UTF32::Unit*>(wide.begin())), XawFmtWide};
+    SetResources(readOnlyText, {{XtNeditType, XawtextEdit}});
+    XawTextReplace(readOnlyText, 0, XawTextLastPosition(readOnlyText), &block);
+    SetResources(readOnlyText, {{XtNeditType, XawtextRead}, {XtNinsertPosition, 0}, {XtNdisplayPosition, 0}});
     // Drawn anew as a whole: lines of another height would leave parts of the old ones behind.
     if (XtIsRealized(readOnlyText)) XClearArea(XtDisplay(readOnlyText), XtWindow(readOnlyText), 0, 0, 0, 0, True);
 }
