@@ -335,6 +335,8 @@ void DisableActionRequestDialog() {
     // Whatever becomes of the refresh, the decisions are closed.
     Guarded(RefreshActionRequestDialog);
     SetAllSensitive(false);
+    // With that the list has forgotten its highlight.
+    dialog.highlighted_row = -1;
     dialog.enabled = false;
 }
 

@@ -122,6 +122,11 @@ class DialogsTest : public testing::Test {
         auto* list = std::find_if(children, children + count, [](Widget w) { return XtClass(w) == listWidgetClass; });
         return *list;
     }
+    static void SelectRow(int row) {
+        XawListHighlight(ListIn("form.viewport"), row);
+        XEvent released{};
+        XtCallActionProc(ListIn("form.viewport"), "PostponeListSelect", &released, nullptr, 0);
+    }
     static int LeftOf(Widget widget) {
         Position x = 0;
         XtVaGetValues(widget, XtNx, &x, nullptr);
@@ -184,9 +189,7 @@ TEST_F(DialogsTest, EverythingFitsTheWindowAfterEachRefresh) {
 TEST_F(DialogsTest, AnEmptiedDialogIsFilledAgain) {
     Pend(2);
     Show();
-    XawListHighlight(ListIn("form.viewport"), 1);
-    XEvent released{};
-    XtCallActionProc(ListIn("form.viewport"), "PostponeListSelect", &released, nullptr, 0);
+    SelectRow(1);
     EXPECT_EQ(Text(InDialog("form.actiontitle"), XtNlabel), "Action 1");
     Pend(0);
     UpdateActionRequestDialog();
@@ -224,6 +227,12 @@ TEST_F(DialogsTest, ADisabledDialogKeepsItsListAndHearsNothing) {
     RefreshActionRequestDialog();
     EXPECT_EQ(Text(InDialog("form.actiontitle"), XtNlabel), "There are 5 pending actions.");
     EXPECT_TRUE(XtIsSensitive(ListIn("form.viewport")));
+    SelectRow(3);
+    Press(InDialog("form.takeActions"));
+    EXPECT_EQ(Commands(), (std::vector{std::pair(UICommandType::Take, 3ULL)}));
+    EnableActionRequestDialog();
+    RefreshActionRequestDialog();
+    EXPECT_EQ(HighlightedRow(ListIn("form.viewport")), 3) << "which row is still the selected one can be seen";
 }
 
 TEST_F(DialogsTest, TheProposedChoiceIsHighlightedAndInView) {
