@@ -125,8 +125,15 @@ void ShowDescription(AutoNullTerminated<char> const& text) {
     SetText(dialog.description, text.c_str());
 }
 
+// The label is one line high: of several it would show those in the middle.
+std::string OneLine(char const* text) {
+    std::string line = text;
+    std::replace(line.begin(), line.end(), '\n', ' ');
+    return line;
+}
+
 void ShowTexts(ActionRequestContents const& contents) {
-    SetResources(dialog.title, {{XtNlabel, contents.title.c_str()}});
+    SetResources(dialog.title, {{XtNlabel, OneLine(contents.title.c_str()).c_str()}});
     SetResources(dialog.take, {{XtNlabel, contents.take_label.c_str()}});
     SetResources(dialog.cancel, {{XtNlabel, contents.cancel_label.c_str()}});
     SetResources(dialog.snooze, {{XtNlabel, contents.snooze_label.c_str()}});

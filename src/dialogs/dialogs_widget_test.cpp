@@ -271,12 +271,16 @@ TEST_F(DialogsTest, AConfirmationIsAnsweredOnceAndIsNeverNarrowerThanItsExplanat
 }
 
 TEST_F(DialogsTest, AConfirmationsButtonsStayOnTheDisplayWhateverItsTitle) {
-    for (char const letter : {'w', '\n'}) {
-        Pend(1, [&](ActionRequest& action) { action.SetTitle(std::string(5000, letter).c_str()); });
+    std::string many_lines;
+    for (int i = 0; i < 5000; ++i) many_lines += "a line that is not wide\n";
+    for (auto const& [title, wide] : {std::pair(std::string(5000, 'w'), true), {many_lines, false}}) {
+        Pend(1, [title = title.c_str()](ActionRequest& action) { action.SetTitle(title); });
         ShowConfirmationRequestDialog(0);
         Widget const shell = Shells("ConfirmationDialog").at(0);
         EXPECT_LE(WidthOf(shell), WidthOfScreen(XtScreen(shell)));
         EXPECT_LE(HeightOf(shell), HeightOfScreen(XtScreen(shell)));
+        Widget const cancel = Find(shell, "form.cancel");
+        EXPECT_EQ(RightOf(cancel) < WidthOf(shell) - 100, wide) << "no wider than it must be";
         HideConfirmationRequestDialog();
     }
 }

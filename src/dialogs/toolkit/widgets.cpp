@@ -54,9 +54,14 @@ int ClampedSize(int pixels) {
 int TextWidth(Widget label, char const* text) {
     XFontSet fonts = nullptr;
     XtVaGetValues(label, XtNfontSet, &fonts, nullptr);
-    // Xlib counts in int: beyond this many bytes only "very wide" matters.
-    auto const length = std::min<std::size_t>(std::strlen(text), 1 << 16);
-    return fonts ? XmbTextEscapement(fonts, text, static_cast<int>(length)) : 0;
+    int widest = 0;
+    for (std::size_t length; fonts && *text; text += length + (text[length] ? 1 : 0)) {
+        length = std::strcspn(text, "\n");
+        // Xlib counts in int: beyond this many bytes only "very wide" matters.
+        int const measured = static_cast<int>(std::min<std::size_t>(length, 1 << 16));
+        widest = std::max(widest, XmbTextEscapement(fonts, text, measured));
+    }
+    return widest;
 }
 
 int DisplayWidthInPixels() {

@@ -19,8 +19,8 @@ int BorderWidthOf(Widget widget);
 // `pixels` within what a size of the X protocol holds: 1 to 32,767.
 int ClampedSize(int pixels);
 
-// How wide `text`, in the locale's encoding, is in an international label's font, as one line: right also where the label's
-// own size has wrapped.
+// How wide the widest line of `text`, in the locale's encoding, is in an international label's font: right also where the
+// label's own size has wrapped.
 int TextWidth(Widget label, char const* text);
 
 int DisplayWidthInPixels();
