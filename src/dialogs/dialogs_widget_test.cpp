@@ -45,6 +45,8 @@ extern "C" int gettimeofday(timeval* now, void*) noexcept {
 
 namespace {
 
+void Nothing(Widget, XEvent const&) {}
+
 void OpenDisplay() {
     static tools::VirtualDisplay server;
     if (display) return;
@@ -54,6 +56,7 @@ void OpenDisplay() {
     int count = 0;
     display = XtOpenDisplay(app_context, server.Name().c_str(), "test", "XQENClientUI", nullptr, 0, &count, nullptr);
     RegisterAction<SystemMenuClose>("SystemMenuClose");
+    RegisterAction<Nothing>("Nothing");
 }
 
 class DialogsTest : public testing::Test {
@@ -233,6 +236,30 @@ TEST_F(DialogsTest, ADisabledDialogKeepsItsListAndHearsNothing) {
     EnableActionRequestDialog();
     RefreshActionRequestDialog();
     EXPECT_EQ(HighlightedRow(ListIn("form.viewport")), 3) << "which row is still the selected one can be seen";
+}
+
+TEST_F(DialogsTest, AKeyOpensNoSearchWindowOverTheDescription) {
+    Show();
+    Widget const text = InDialog("form.actiondesc");
+    XEvent key{};
+    key.xkey = {KeyPress,
+                0,
+                True,
+                display,
+                XtWindow(text),
+                DefaultRootWindow(display),
+                0,
+                0,
+                1,
+                1,
+                0,
+                0,
+                ControlMask,
+                XKeysymToKeycode(display, XStringToKeysym("s")),
+                True};
+    XSendEvent(display, XtWindow(text), False, KeyPressMask, &key);
+    Settle();
+    EXPECT_EQ(XtNameToWidget(text, "search"), nullptr);
 }
 
 TEST_F(DialogsTest, TheProposedChoiceIsHighlightedAndInView) {

@@ -56,7 +56,7 @@ void OpenDisplay(int argc, char** argv) {
     if (!display) ExitCleanup(-1, "Error: failed XtOpenDisplay");
 }
 
-// Swallows an event, in users' translations. It has a procedure because the toolkit warns of actions that have none.
+// Swallows an event, also in users' translations. It has a procedure because the toolkit warns of actions that have none.
 void Nothing(Widget, XEvent const&) {}
 
 void DropTranslationsInCLocale() {

@@ -18,6 +18,9 @@ Widget CreateReadOnlyText(Widget parent, char const* name, char const* text, Arg
                         {XtNdisplayCaret, false},
                         {XtNinternational, true}};
     Widget readOnlyText = Create(parent, name, asciiTextWidgetClass, common, arguments);
+    // Deaf to the keyboard: the widget's own search window, which a key opens, reads beyond what is typed into it.
+    static XtTranslations const deaf = XtParseTranslationTable("<Key>: Nothing()\n");
+    XtOverrideTranslations(readOnlyText, deaf);
     SetText(readOnlyText, text);
     return readOnlyText;
 }
