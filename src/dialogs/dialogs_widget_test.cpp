@@ -45,8 +45,6 @@ extern "C" int gettimeofday(timeval* now, void*) noexcept {
 
 namespace {
 
-void Nothing(Widget, XEvent const&) {}
-
 void OpenDisplay() {
     static tools::VirtualDisplay server;
     if (display) return;
@@ -55,8 +53,7 @@ void OpenDisplay() {
     app_context = XtCreateApplicationContext();
     int count = 0;
     display = XtOpenDisplay(app_context, server.Name().c_str(), "test", "XQENClientUI", nullptr, 0, &count, nullptr);
-    RegisterAction<SystemMenuClose>("SystemMenuClose");
-    RegisterAction<Nothing>("Nothing");
+    RegisterDialogActions();
 }
 
 class DialogsTest : public testing::Test {
@@ -242,21 +239,12 @@ TEST_F(DialogsTest, AKeyOpensNoSearchWindowOverTheDescription) {
     Show();
     Widget const text = InDialog("form.actiondesc");
     XEvent key{};
-    key.xkey = {KeyPress,
-                0,
-                True,
-                display,
-                XtWindow(text),
-                DefaultRootWindow(display),
-                0,
-                0,
-                1,
-                1,
-                0,
-                0,
-                ControlMask,
-                XKeysymToKeycode(display, XStringToKeysym("s")),
-                True};
+    key.xkey.type = KeyPress;
+    key.xkey.display = display;
+    key.xkey.window = XtWindow(text);
+    key.xkey.state = ControlMask;
+    key.xkey.keycode = XKeysymToKeycode(display, XStringToKeysym("s"));
+    key.xkey.same_screen = True;
     XSendEvent(display, XtWindow(text), False, KeyPressMask, &key);
     Settle();
     EXPECT_EQ(XtNameToWidget(text, "search"), nullptr);

@@ -56,9 +56,6 @@ void OpenDisplay(int argc, char** argv) {
     if (!display) ExitCleanup(-1, "Error: failed XtOpenDisplay");
 }
 
-// Swallows an event, also in users' translations. It has a procedure because the toolkit warns of actions that have none.
-void Nothing(Widget, XEvent const&) {}
-
 void DropTranslationsInCLocale() {
     if (!international) return;
     char const* locale = std::setlocale(LC_CTYPE, nullptr);
@@ -81,8 +78,7 @@ int InitXApp(int argc, char** argv, void (*tick)()) try {
     DropTranslationsInCLocale();
     ConfigValidDefaultFontSet();
     XtAppSetErrorHandler(app_context, Xt_ErrorHandler);
-    RegisterAction<SystemMenuClose>("SystemMenuClose");
-    RegisterAction<Nothing>("Nothing");
+    RegisterDialogActions();
     RunEvery(1000, tick);
     XtAppMainLoop(app_context);
     return 0;

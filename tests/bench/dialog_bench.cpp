@@ -7,7 +7,6 @@
 #include "core/process/process_state.h"
 #include "core/process/x_connection.h"
 #include "dialogs/action_request_dialog.h"
-#include "dialogs/toolkit/callbacks.h"
 #include "dialogs/toolkit/dialog_shell.h"
 #include "tools/virtual_display.h"
 
@@ -23,7 +22,7 @@ void OpenDisplay() {
     app_context = XtCreateApplicationContext();
     int count = 0;
     display = XtOpenDisplay(app_context, server.Name().c_str(), "bench", "XQENClientUI", nullptr, 0, &count, nullptr);
-    RegisterAction<SystemMenuClose>("SystemMenuClose");
+    RegisterDialogActions();
 }
 
 ActionRequest Action(std::int64_t i) {

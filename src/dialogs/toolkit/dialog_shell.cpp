@@ -9,10 +9,18 @@
 
 #include "core/process/exit_cleanup.h"
 #include "core/process/x_connection.h"
+#include "dialogs/toolkit/callbacks.h"
 #include "dialogs/toolkit/widgets.h"
 
+namespace {
+
 // Those made before the hidden shell.
-static std::vector<Widget>& leaderless = *new std::vector<Widget>;
+std::vector<Widget>& leaderless = *new std::vector<Widget>;
+
+// It has a procedure because the toolkit warns of actions that have none.
+void Nothing(Widget, XEvent const&) {}
+
+}  // namespace
 
 Widget CreateDialogShell(char const* name, char const* title) {
     static XtTranslations const closing = XtParseTranslationTable("<Message>WM_PROTOCOLS: SystemMenuClose()\n");
@@ -67,4 +75,9 @@ void SystemMenuClose(Widget widget, XEvent const& event) {
     Atom protocols = XInternAtom(connection, "WM_PROTOCOLS", True);
     if (event.type != ClientMessage || event.xclient.message_type != protocols) return;
     if (static_cast<Atom>(event.xclient.data.l[0]) == close) ExitCleanup(0, "CLOSED");
+}
+
+void RegisterDialogActions() {
+    RegisterAction<SystemMenuClose>("SystemMenuClose");
+    RegisterAction<Nothing>("Nothing");
 }

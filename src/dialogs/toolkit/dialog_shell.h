@@ -33,3 +33,7 @@ void CenterDialogOnDisplay(Widget shell);
 // The action behind the window manager's close request: closing any dialog ends the process with status 0, and nothing
 // is sent. Every other event is ignored.
 void SystemMenuClose(Widget widget, _XEvent const& event);
+
+// Registers "SystemMenuClose" and "Nothing", which swallows an event, also in users' translations: once an application,
+// before its first dialog.
+void RegisterDialogActions();
