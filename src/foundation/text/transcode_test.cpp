@@ -54,26 +54,16 @@ void Expect(std::optional<Units<To>> const& to, std::initializer_list<Units<From
             EXPECT_EQ((ConvertSplit<To, From>(text, split)), to) << testing::PrintToString(text) << " cut at " << split;
 }
 
-template <class To, class From>
-Units<To> Converted(Units<From> const& text) {
-    auto result = Transcode<To>(UStringRef<From>(text.data(), text.data() + text.size()));
-    return {result.begin(), result.end()};
-}
-
-TEST(Transcode, UTF8DecodesLenientlyWhereverItIsCut) {
+TEST(Transcode, UTF8DecodesLenientlyOrIsRefusedWhereverItIsCut) {
     auto expect = Expect<UTF32, UTF8>;
     expect({{}}, {{}});
     expect({{0, 0x41, 0x7F}}, {{0, 0x41, 0x7F}, {0xC0, 0x80, 0x41, 0x7F}, {0xE0, 0x80, 0x80, 0xC1, 0x81, 0x7F}});
-    expect({{0x80, 0x7FF, 0x800}}, {{0xC2, 0x80, 0xDF, 0xBF, 0xE0, 0xA0, 0x80}});
-    expect({{0xFFFF, 0x1F600, 0x62}}, {{0xEF, 0xBF, 0xBF, 0xF0, 0x9F, 0x98, 0x80, 0x62}});
+    expect({{0x80, 0x7FF, 0x800, 0xFFFF}}, {{0xC2, 0x80, 0xDF, 0xBF, 0xE0, 0xA0, 0x80, 0xEF, 0xBF, 0xBF}});
     expect({{0xD800, 0x110000}}, {{0xED, 0xA0, 0x80, 0xF4, 0x90, 0x80, 0x80}});
-    expect({{0, 0x1FFFFF}}, {{0xF0, 0x80, 0x80, 0x80, 0xF7, 0xBF, 0xBF, 0xBF}});
-}
-
-TEST(Transcode, BrokenUTF8IsRefusedWhereverItIsCut) {
-    Expect<UTF32, UTF8>({}, {{0x80}, {0xC3}, {0xE2, 0x82}, {0x41, 0xF0, 0x9F, 0x98}, {0xC3, 0x41}});
-    Expect<UTF32, UTF8>({}, {{0xC3, 0x41, 0x41, 0x41}, {0x80, 0x80, 0x80, 0x80}, {0xE2, 0x41, 0x82, 0xAC}});
-    Expect<UTF32, UTF8>({}, {{0xF0, 0x9F, 0x98, 0x41}, {0xF8, 0x88, 0x80, 0x80, 0x80}, {0xFF, 0x41, 0x41, 0x41}});
+    expect({{0, 0x1F600, 0x1FFFFF}}, {{0xF0, 0x80, 0x80, 0x80, 0xF0, 0x9F, 0x98, 0x80, 0xF7, 0xBF, 0xBF, 0xBF}});
+    expect({}, {{0x80}, {0xC3}, {0xE2, 0x82}, {0x41, 0xF0, 0x9F, 0x98}, {0xC3, 0x41}});
+    expect({}, {{0xC3, 0x41, 0x41, 0x41}, {0x80, 0x80, 0x80, 0x80}, {0xE2, 0x41, 0x82, 0xAC}});
+    expect({}, {{0xF0, 0x9F, 0x98, 0x41}, {0xF8, 0x88, 0x80, 0x80, 0x80}, {0xFF, 0x41, 0x41, 0x41}});
 }
 
 TEST(Transcode, UTF16PairsItsSurrogatesOrIsRefused) {
@@ -91,31 +81,13 @@ TEST(Transcode, EncodersWriteTheShortestFormAndRefuseWhatHasNone) {
         Expect<UTF8, UTF32>({}, {{0x41, code}});
         Expect<UTF16, UTF32>({}, {{0x41, code}});
     }
-}
-
-TEST(Transcode, EveryCodePointSurvivesTheWayThereAndBack) {
-    Units<UTF32> all;
-    for (UTF32::Unit code = 0; code < 0x110000; ++code)
-        if (code < 0xD800 || code > 0xDFFF) all.push_back(code);
-    EXPECT_TRUE((Converted<UTF32, UTF8>(Converted<UTF8, UTF32>(all)) == all));
-    EXPECT_TRUE((Converted<UTF32, UTF16>(Converted<UTF16, UTF32>(all)) == all));
-    EXPECT_TRUE((Converted<UTF32, UTF32>(all) == all));
-}
-
-TEST(Transcode, AsciiPassesAndNothingElseDoes) {
     Expect<UTF8, USAscii>({{0, 0x31, 0x7F}}, {{0, 0x31, 0x7F}});
     Expect<UTF16, USAscii>({{0, 0x31, 0x7F}}, {{0, 0x31, 0x7F}});
     Expect<UTF8, USAscii>({}, {{0x31, 0x80}});
-    Expect<UTF16, USAscii>({}, {{0xFF}});
+    EXPECT_EQ(Transcode<UTF8>(UStringRef<UTF8>("\xFF")).AsStringView(), "\xFF");
 }
 
 TEST(Transcode, OutputIsHandedOnInBlocks) {
-    Units<UTF8> ascii(1030, 'a');
-    Recorder<UTF32> codes;
-    GenericTranscoder<UTF32, UTF8> decoder(codes);
-    decoder.Receive(ascii);
-    EXPECT_THAT(codes.pieces, ElementsAre(1024, 6));
-
     Units<UTF32> euros(1400, 0x20AC);
     Recorder<UTF8> bytes;
     GenericTranscoder<UTF8, UTF32>(bytes).Receive(euros);
@@ -128,20 +100,16 @@ TEST(Transcode, OutputIsHandedOnInBlocks) {
     EXPECT_THAT(units.pieces, ElementsAre(2047));
 }
 
-TEST(Transcode, ARefusedStreamLeavesNothingBehindForTheNext) {
+TEST(Transcode, AStreamCutShortLeavesNothingBehindForTheNext) {
     Recorder<UTF32> codes;
     GenericTranscoder<UTF32, UTF8> decoder(codes);
-    Units<UTF8> broken(4, 0xFF), cut(3, 0xF0), good{0xC3, 0xA9};
-    EXPECT_THROW(decoder.Receive(broken), InvalidTextEncoding);
-    EXPECT_NO_THROW(decoder.Receive(cut));
+    decoder.Receive(Units<UTF8>{0xF0, 0xF0, 0xF0});
     decoder.Start(UTF8());
-    decoder.Receive(good);
-    decoder.ReceiveEnd();
+    decoder.Receive(Units<UTF8>{0xC3, 0xA9});
     GenericTranscoder<UTF32, UTF16> pairs(codes);
-    Units<UTF16> high{0xD800}, plain{0x41};
-    pairs.Receive(high);
+    pairs.Receive(Units<UTF16>{0xD800});
     pairs.Start(UTF16());
-    pairs.Receive(plain);
+    pairs.Receive(Units<UTF16>{0x41});
     EXPECT_THAT(codes.all, ElementsAre(0xE9, 0x41));
 }
 
