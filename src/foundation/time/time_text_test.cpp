@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr char const* kGood = "Sun, 15 Nov 2026 02:16:00 +0000";
+std::string const kGood = "Sun, 15 Nov 2026 02:16:00 +0000";
 
 std::string Written(TimeObject const& time) {
     return std::string(TimeToText(time).AsStringView());
@@ -20,7 +20,6 @@ TimeObject Read(std::string_view text) {
 
 TEST(TimeText, IsWrittenToTheByte) {
     DateRecord const date{5, Month::January, 2014};
-    EXPECT_EQ(Written({}), "Thu, 01 Jan 1970 00:00:00 +0000");
     EXPECT_EQ(Written({{15, Month::November, 2026}, {2, 16, 0}, TimeZone()}), kGood);
     EXPECT_EQ(Written({date, {23, 59, 59}, TimeZone(19'800)}), "Sun, 05 Jan 2014 23:59:59 +0530");
     EXPECT_EQ(Written({date, {7, 5, 9}, TimeZone(-12'600)}), "Sun, 05 Jan 2014 07:05:09 -0330");
@@ -42,12 +41,11 @@ TEST(TimeText, IsReadWithBlanksAroundAndAnyWeekday) {
 }
 
 TEST(TimeText, AnythingElseThrows) {
-    std::string const good = kGood;
-    for (std::size_t i = 0; i < good.size(); ++i) {
-        EXPECT_THROW(Read(good.substr(0, i)), InvalidTimeText) << i;
-        EXPECT_THROW(Read(good.substr(i + 1)), InvalidTimeText) << i;
+    for (std::size_t i = 0; i < kGood.size(); ++i) {
+        EXPECT_THROW(Read(kGood.substr(0, i)), InvalidTimeText) << i;
+        EXPECT_THROW(Read(kGood.substr(i + 1)), InvalidTimeText) << i;
         for (std::string const wrong : {"x", "\xE9", "/"})
-            EXPECT_THROW(Read(std::string(good).replace(i, 1, wrong)), InvalidTimeText) << i << wrong;
+            EXPECT_THROW(Read(std::string(kGood).replace(i, 1, wrong)), InvalidTimeText) << i << wrong;
     }
     for (std::string const date :
          {"", " ", "SUN, 15 Nov 2026", ", 15 Nov 2026", "Sun 15 Nov 2026", "Sun,  15 Nov 2026", "Sun, 5 Nov 2026",
@@ -56,19 +54,15 @@ TEST(TimeText, AnythingElseThrows) {
         EXPECT_THROW(Read(date + " 02:16:00 +0000"), InvalidTimeText) << date;
     for (auto const* time :
          {"", " 02:16:00", " 02:16:00 +00000", " 02:16:00 +0060", " 02:16:00 +00:00", " 02:16:00 GMT",
-          " 24:00:00 +0000", " 02:60:00 +0000", " 02:16:60 +0000", " 02:16:00 +0000 x"})
-        EXPECT_THROW(Read(good.substr(0, 16) + time), InvalidTimeText) << time;
-    EXPECT_THROW(TextToTime({}), InvalidTimeText);
+          " 02:16:00  0000", " 24:00:00 +0000", " 02:60:00 +0000", " 02:16:60 +0000", " 02:16:00 +0000 x"})
+        EXPECT_THROW(Read(kGood.substr(0, 16) + time), InvalidTimeText) << time;
 }
 
 TEST(Buffer, ThrowsWhenTheTextDoesNotFit) {
     unsigned char room[31];
-    for (std::size_t size = 0; size < sizeof room; ++size) {
-        Buffer shorter(ArrayOf<unsigned char>(room).first(size));
-        EXPECT_THROW(shorter << Read(kGood), DataOverflow) << size;
-    }
-    Buffer fitting(room);
+    Buffer fitting(room), shorter(ArrayOf<unsigned char>(room).first(30));
     EXPECT_EQ((fitting << Read(kGood)).Text().AsStringView(), kGood);
+    EXPECT_THROW(shorter << Read(kGood), DataOverflow);
 }
 
 }  // namespace
