@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 
 #include "localisation/action_sentences.h"
 #include "localisation/deadline_text.h"
@@ -10,140 +11,119 @@
 
 namespace {
 
-// The sentence that the facts call for, put together from its parts: what the tables hold whole.
+// What a family says in its own way.
 struct Wording {
-    char const* save;
-    char const* save_as;  // Begins the sentence that a restart or shutdown ends.
-    char const* they;
-    char const* will;
-    char const* complete;
-    char const* within;
-    char const* now;
-    char const* automatic;
+    ActionSentences const& sentences;
+    std::string actions, they, the_actions, complete, must_take, run;
 };
-constexpr Wording kWordings[] = {
-    {"You should save your work before taking this action", "as it will require a system ", "This action",
-     " will require a system ", "", "You must take this action within {DeadlineText}.",
-     "You must take this action now.", "This action will run automatically in {DeadlineText}."},
-    {"You should save your work before taking the selected actions", "as they will require a system ",
-     "The selected actions", " will require a system ", " when they are complete",
-     "There is at least one selected action you must take within {DeadlineText}.",
-     "There is at least one selected action you must take now.",
-     "At least one of the selected actions will run automatically in {DeadlineText}."},
-    {"You should save your work before taking these actions", "as they will require a system ", "The pending actions",
-     " will require a system ", " when they are complete",
-     "There is at least one action you must take within {DeadlineText}.",
-     "There is at least one action you must take now.",
-     "At least one of these actions will run automatically in {DeadlineText}."}};
+Wording const kWordings[] = {
+    {kOneActionSentences, "this action", "it", "This action", "", "You must take this action", "This action"},
+    {kSelectedActionsSentences, "the selected actions", "they", "The selected actions", " when they are complete",
+     "There is at least one selected action you must take", "At least one of the selected actions"},
+    {kPendingActionsSentences, "these actions", "they", "The pending actions", " when they are complete",
+     "There is at least one action you must take", "At least one of these actions"}};
 
-std::string Expected(ActionFamily family, SummaryFacts const& facts) {
-    auto const& words = kWordings[static_cast<int>(family)];
+// The sentence that the facts call for, put together from its parts: what the tables hold whole.
+std::string Expected(ActionFamily family, Wording const& words, SummaryFacts const& facts) {
+    bool const within = facts.has_deadline && !facts.forced && !facts.soon;
     std::string after = facts.restart ? "restart" : "";
     if (facts.shutdown && (family != ActionFamily::One || !facts.restart)) after = "shutdown";
-    std::string deadline = !facts.has_deadline ? ""
-                           : facts.forced      ? words.automatic
-                           : facts.soon        ? words.now
-                                               : words.within;
-    if (family == ActionFamily::Pending && after == "restart" && deadline == words.within) after = "";
+    if (family == ActionFamily::Pending && after == "restart" && within) after = "";
 
-    std::string text;
-    if (facts.save) text = words.save + (after.empty() ? std::string(".") : std::string(", ") + words.save_as);
-    if (!after.empty() && !facts.save) text = std::string(words.they) + words.will;
-    if (!after.empty()) text += after + words.complete + ".";
-    return text.empty() || deadline.empty() ? text + deadline : text + "  " + deadline;
+    std::string text = facts.save ? "You should save your work before taking " + words.actions : words.the_actions;
+    if (!after.empty())
+        text += (facts.save ? ", as " + words.they : "") + " will require a system " + after + words.complete;
+    text += facts.has_deadline ? ".  " : ".";
+    if (!facts.save && after.empty()) text = "";
+    if (!facts.has_deadline) return text;
+    if (facts.forced) return text + words.run + " will run automatically in {DeadlineText}.";
+    return text + words.must_take + (facts.soon ? " now." : " within {DeadlineText}.");
 }
 
 TEST(ActionSummaryTest, EveryCombinationOfFactsYieldsItsSentence) {
-    ActionSentences const* const families[] = {&kOneActionSentences, &kSelectedActionsSentences,
-                                               &kPendingActionsSentences};
-    for (int family = 0; family < 3; ++family)
+    for (auto family : {ActionFamily::One, ActionFamily::Selected, ActionFamily::Pending})
         for (unsigned bits = 0; bits < 64; ++bits) {
+            auto const& words = kWordings[static_cast<int>(family)];
             SummaryFacts const facts{(bits & 1) != 0, (bits & 2) != 0,  (bits & 4) != 0,
                                      (bits & 8) != 0, (bits & 16) != 0, (bits & 32) != 0};
-            auto const row = static_cast<std::size_t>(SummaryRow(static_cast<ActionFamily>(family), facts));
-            EXPECT_EQ((*families[family])[row], Expected(static_cast<ActionFamily>(family), facts))
-                << family << " " << bits;
+            auto const row = static_cast<std::size_t>(SummaryRow(family, facts));
+            EXPECT_EQ(words.sentences[row], Expected(family, words, facts)) << bits;
         }
 }
 
-ActionRequest Due(unsigned long long id, long long secondsFromNow) {
+ActionRequest Due(unsigned long long id, long long secondsFromNow, bool forced) {
     ActionRequest action;
     action.id = id;
     action.deadline = TimeObject(Instant::Now() + TimeInterval::Seconds(secondsFromNow), TimeZone());
+    action.force_run = forced;
     return action;
 }
 
 TEST(ActionSummaryTest, OfASetTheEarliestDeadlineDecidesAndTheLowestIDAmongEquals) {
-    auto late = Due(1, 7200 + 60), near = Due(2, 3600 + 60), equal = Due(3, 3600 + 60), none = ActionRequest();
-    late.force_run = true;
-    equal.deadline = near.deadline;
-    equal.force_run = true;
-    none.id = 4;
-    none.force_run = none.request_save = true;
+    ActionRequest all[] = {Due(1, 7200 + 60, true), Due(2, 3600 + 60, false), Due(3, 0, true), Due(4, 0, true),
+                           Due(5, 0, true)};
+    all[2].deadline = all[1].deadline;
+    all[3].deadline = all[4].deadline = {};
+    all[3].request_save = true;
     ActionRequestStore store;
-    ActionRequest const all[] = {late, near, equal, none};
     store.UpdateActions(all);
     auto summary = [&](std::set<unsigned long long> ids, bool pending) {
         return std::string(ActionSummary(ids, store, pending).AsStringView());
     };
     EXPECT_EQ(summary({1, 2, 3}, true), "There is at least one action you must take within 1 hour.");
     EXPECT_EQ(summary({1, 3}, true), "At least one of these actions will run automatically in 1 hour.");
-    EXPECT_EQ(summary({4}, false), "You should save your work before taking the selected actions.");
+    EXPECT_EQ(summary({4, 5}, false), "You should save your work before taking the selected actions.");
     EXPECT_EQ(summary({}, true), "");
-    EXPECT_THROW(summary({5}, true), NoSuchActionRequestID);
-    EXPECT_EQ(ActionSummary(late).AsStringView(), "This action will run automatically in 2 hours.");
+    EXPECT_THROW(summary({6}, true), NoSuchActionRequestID);
+    EXPECT_EQ(ActionSummary(all[0]).AsStringView(), "This action will run automatically in 2 hours.");
 }
 
 TEST(ActionRequestStoreTest, UpdatesOverwriteAndRaiseNearForcedDeadlines) {
-    auto near = Due(1, 240), far = Due(2, 360), unforced = Due(3, 240), later = Due(1, -10);
-    near.force_run = far.force_run = later.force_run = true;
-    later.SetTitle("later");
+    ActionRequest const first[] = {Due(1, 240, true), Due(2, 360, true), Due(3, 240, false)};
+    ActionRequest second[] = {Due(1, -10, true)};
+    second[0].SetTitle("later");
     ActionRequestStore store;
-    ActionRequest const first[] = {near, far, unforced}, second[] = {later};
     store.UpdateActions(first);
-    EXPECT_GE(*store.GetAction(1).Deadline(), *near.Deadline() + TimeInterval::Seconds(60));
-    EXPECT_EQ(*store.GetAction(2).Deadline(), *far.Deadline());
-    EXPECT_EQ(*store.GetAction(3).Deadline(), *unforced.Deadline());
+    EXPECT_GE(*store.GetAction(1).Deadline(), *first[0].Deadline() + TimeInterval::Seconds(60));
+    for (unsigned long long id : {2, 3}) EXPECT_EQ(*store.GetAction(id).Deadline(), *first[id - 1].Deadline());
     store.UpdateActions(second);
     store.UpdateActions({});
     EXPECT_EQ(store.GetAction(1).title.AsStringView(), "later");
     EXPECT_GT(*store.GetAction(1).Deadline(), Instant::Now());
-    EXPECT_TRUE(store.HasAction(3));
     store.RemoveAction(3);
     EXPECT_THROW(store.RemoveAction(3), NoSuchActionRequestID);
-    EXPECT_THROW(store.GetAction(3), NoSuchActionRequestID);
+}
+
+std::string Phrase(long long remaining, bool exact, bool relative) {
+    return std::string(FormattedDeadline(TimeInterval(remaining), exact, relative).AsStringView());
 }
 
 TEST(DeadlineTextTest, EveryPhraseHasItsRange) {
     constexpr long long kMinute = TimeInterval::kMinute, kHour = TimeInterval::kHour, kSecond = TimeInterval::kSecond;
-    struct {
-        long long remaining;
-        char const* plain;
-        char const* exact;
-        char const* relative;
-        char const* exact_relative;
-    } const cases[] = {{-1, "Overdue", "0 seconds", "Overdue", "Running..."},
-                       {0, "Now", "0 seconds", "Now", "0 seconds from now"},
-                       {kSecond, "Now", "1 second", "Now", "1 second from now"},
-                       {kMinute, "Now", "1 minute, 0 seconds", "Now", "1 minute, 0 seconds from now"},
-                       {61 * kSecond, "Now", "1 minute, 1 second", "Now", "1 minute, 1 second from now"},
-                       {121 * kSecond, "Now", "2 minutes, 1 second", "Now", "2 minutes, 1 second from now"},
-                       {5 * kMinute, "Now", "5 minutes, 0 seconds", "Now", "5 minutes, 0 seconds from now"},
-                       {5 * kMinute + 1, "5 minutes", "5 minutes", "5 minutes from now", "5 minutes from now"},
-                       {kHour, "60 minutes", "60 minutes", "60 minutes from now", "60 minutes from now"},
-                       {kHour + 1, "1 hour", "1 hour", "1 hour from now", "1 hour from now"},
-                       {90 * kMinute, "1 hour", "1 hour", "1 hour from now", "1 hour from now"},
-                       {90 * kMinute + 1, "2 hours", "2 hours", "2 hours from now", "2 hours from now"},
-                       {24 * kHour, "24 hours", "24 hours", "24 hours from now", "24 hours from now"},
-                       {36 * kHour, "1 day", "1 day", "1 day from now", "1 day from now"},
-                       {36 * kHour + 1, "2 days", "2 days", "2 days from now", "2 days from now"}};
-    for (auto const& c : cases) {
-        TimeInterval const left(c.remaining);
-        EXPECT_EQ(FormattedDeadline(left, false, false).AsStringView(), c.plain);
-        EXPECT_EQ(FormattedDeadline(left, true, false).AsStringView(), c.exact);
-        EXPECT_EQ(FormattedDeadline(left, false, true).AsStringView(), c.relative);
-        EXPECT_EQ(FormattedDeadline(left, true, true).AsStringView(), c.exact_relative);
+    std::pair<long long, std::string> const cases[] = {{0, "0 seconds"},
+                                                       {kSecond, "1 second"},
+                                                       {kMinute, "1 minute, 0 seconds"},
+                                                       {61 * kSecond, "1 minute, 1 second"},
+                                                       {121 * kSecond, "2 minutes, 1 second"},
+                                                       {5 * kMinute, "5 minutes, 0 seconds"},
+                                                       {5 * kMinute + 1, "5 minutes"},
+                                                       {kHour, "60 minutes"},
+                                                       {90 * kMinute, "1 hour"},
+                                                       {90 * kMinute + 1, "2 hours"},
+                                                       {24 * kHour, "24 hours"},
+                                                       {36 * kHour, "1 day"},
+                                                       {36 * kHour + 1, "2 days"}};
+    for (auto const& [remaining, exact] : cases) {
+        bool const now = remaining <= 5 * kMinute;
+        EXPECT_EQ(Phrase(remaining, false, false), now ? "Now" : exact);
+        EXPECT_EQ(Phrase(remaining, false, true), now ? "Now" : exact + " from now");
+        EXPECT_EQ(Phrase(remaining, true, false), exact);
+        EXPECT_EQ(Phrase(remaining, true, true), exact + " from now");
     }
+    EXPECT_EQ(Phrase(-1, false, false), "Overdue");
+    EXPECT_EQ(Phrase(-1, true, false), "0 seconds");
+    EXPECT_EQ(Phrase(-1, false, true), "Overdue");
+    EXPECT_EQ(Phrase(-1, true, true), "Running...");
 }
 
 }  // namespace
