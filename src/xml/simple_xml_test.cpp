@@ -18,16 +18,14 @@ std::string Reparsed(std::string const& document) {
 }
 
 TEST(SimpleXML, BuildsTheTreeOfWhateverItIsGiven) {
-    struct {
-        char const *document, *tree;
-    } const cases[] = {
+    std::pair<char const*, char const*> const cases[] = {
         {"<?xml version='1.0'?>\n<a>\n <b>x</b>\n</a>\n", "<a>\n \n<b>x</b></a>"},
         {"<a z='1' k='2' z='3'>", "<a k=\"2\" z=\"1\"></a>"},
         {"<a>one</a><b>two</b>", "<b>two</b>"},
         {"</x></x><a><b></z>t</a><c>", "<c></c>"},
-        {"<a>1&lt;2<b>x</b>&amp;<![CDATA[<c>]]></a>", "<a>1&lt;2&amp;&lt;c&gt;<b>x</b></a>"},
+        {"<a>1&lt;2<b>x</b>&amp;<![CDATA[<c>]]><d></a>", "<a>1&lt;2&amp;&lt;c&gt;<b>x</b><d></d></a>"},
     };
-    for (auto& each : cases) EXPECT_EQ(Reparsed(each.document), each.tree) << each.document;
+    for (auto [document, tree] : cases) EXPECT_EQ(Reparsed(document), tree) << document;
     for (auto nothing : {"", "text", "<?xml version='1.0'?>", "<!-- <a> -->", "<a/>", "<a"})
         EXPECT_THROW(SimpleXML::Parse(nothing), FormatError) << nothing;
 }
@@ -53,11 +51,7 @@ TEST(SimpleXML, TakesTheWorstOfAFrameInItsStride) {
     std::string attributes = "<a";
     for (int i = 0; i < 200'000; ++i)
         attributes += " k" + std::to_string(i * 7 % 100'000) + "='" + std::to_string(i) + "'";
-    auto root = SimpleXML::Parse(UStringRef<UTF8>(attributes + ">"));
-    EXPECT_EQ(root->GetAttribute("k99999").AsStringView(), "42857");
-    std::size_t size = 0;
-    for ([[maybe_unused]] auto attribute : root->Attributes()) ++size;
-    EXPECT_EQ(size, 100'000u);
+    EXPECT_EQ(SimpleXML::Parse(UStringRef<UTF8>(attributes + ">"))->GetAttribute("k99999").AsStringView(), "42857");
 }
 
 }  // namespace

@@ -27,10 +27,7 @@ TEST(XMLElement, KeepsAttributesInTheOrderOfTheirBytes) {
         EXPECT_EQ(element.GetAttribute(name), value);
     }
     EXPECT_EQ(names, ",a,aa,b,\xC3,");
-    for (auto absent : {"A", "ab", "c", "\xC4"}) {
-        EXPECT_FALSE(element.HasAttribute(absent));
-        EXPECT_THROW(element.GetAttribute(absent), NoSuchAttribute);
-    }
+    for (auto absent : {"A", "ab", "c", "\xC4"}) EXPECT_THROW(element.GetAttribute(absent), NoSuchAttribute) << absent;
 }
 
 TEST(XMLElement, CopiesTheWholeTreeEvenIntoItself) {
@@ -38,11 +35,10 @@ TEST(XMLElement, CopiesTheWholeTreeEvenIntoItself) {
     parent.AddChildElement(Element("c")).AddChildElement(Element("d"));
     parent.AddChildElement(parent).AppendCharacters("copy");
     parent.AddChildElement(parent.Children()[1]);
-    EXPECT_EQ(parent.GetChildElement("p").GetChildElement("c").GetChildElement("d").Children().size(), 0u);
-    EXPECT_EQ(parent.Children()[2].GetValue(), UStringRef<UTF8>("copy"));
-    EXPECT_TRUE(parent.GetValue().empty());
-    parent = parent.Children()[1];
+    EXPECT_EQ(XMLElement(parent).GetChildElement("p").GetChildElement("c").GetChildElement("d").Children().size(), 0u);
+    parent = parent.Children()[2];
     EXPECT_EQ(parent.Children().size(), 1u);
+    EXPECT_EQ(parent.GetValue(), UStringRef<UTF8>("copy"));
     auto list = Element("l");
     list.AddChildElement(std::move(list.AddChildElement(Element("c"))));
     EXPECT_EQ(list.Children()[1].Name(), UStringRef<UTF8>("c"));

@@ -33,9 +33,8 @@ TEST(XMLWriter, BreaksAndIndentsLinesByItsStyle) {
 
 TEST(XMLWriter, BeginsWithALineFeedWhenThereIsNoDeclaration) {
     EXPECT_EQ(Written(XMLFormatStyle::Indented, [](auto& writer) { writer.BeginElement("a"); }), "\n<a></a>");
-    EXPECT_EQ(Written(XMLFormatStyle::Indented,
-                      [](auto& writer) { writer.BeginDocument(EncodingDeclaration::WithoutEncoding); }),
-              "<?xml version=\"1.0\"?>");
+    auto declare = [](XMLWriter& writer) { writer.BeginDocument(EncodingDeclaration::WithoutEncoding); };
+    EXPECT_EQ(Written(XMLFormatStyle::Indented, declare), "<?xml version=\"1.0\"?>");
 }
 
 TEST(XMLWriter, EscapesTheQuoteInAttributesOnly) {
