@@ -5,22 +5,16 @@
 #include <unistd.h>
 
 #include <atomic>
-#include <chrono>
 #include <cstdlib>
 #include <filesystem>
-#include <thread>
 
 #include "channel/thread_exit.h"
+#include "tools/waiting.h"
 
 // Waits until the condition holds, and answers whether it came to hold within half a minute.
 template <class Condition>
 bool Eventually(Condition condition) {
-    auto const deadline = std::chrono::steady_clock::now() + std::chrono::seconds(30);
-    while (!condition()) {
-        if (std::chrono::steady_clock::now() > deadline) return false;
-        std::this_thread::sleep_for(std::chrono::microseconds(200));
-    }
-    return true;
+    return tools::WaitUntil(std::chrono::seconds(30), condition);
 }
 
 // How many threads of the program's own have freed themselves, since the last reset.
