@@ -2,14 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include <limits>
+#include <climits>
 #include <string>
 
 #include "foundation/time/scoped_local_zone.h"
 
 namespace {
-
-constexpr auto kLast = std::numeric_limits<long long>::max();
 
 std::string Written(long long microseconds) {
     return std::string(InstantToXMLDateTime(Instant(microseconds)).AsStringView());
@@ -43,10 +41,11 @@ TEST(XMLDateTime, IsWrittenInTheLocalZoneAndReadBack) {
         EXPECT_EQ(Written(1'794'708'960'000'000), text);
         EXPECT_EQ(Read(text), 1'794'708'960'000'000);
     }
-    EXPECT_EQ(Written(-kLast - 1), "0000-01-01T00:00:00Z");
-    EXPECT_EQ(Written(kLast), "294247-01-10T04:00:54Z");
+    EXPECT_EQ(Written(LLONG_MIN), "0000-01-01T00:00:00Z");
+    EXPECT_EQ(Written(LLONG_MAX), "294247-01-10T04:00:54Z");
     EXPECT_EQ(TimeOfDayToXMLTime({7, 5, 9}).AsStringView(), "07:05:09");
-    EXPECT_EQ(TimeZoneToText(TimeZone(std::numeric_limits<int>::min())).AsStringView(), "-596523:14");
+    EXPECT_EQ(TimeZoneToText(TimeZone(INT_MIN)).AsStringView(), "-596523:14");
+    EXPECT_EQ(TimeZoneToText(TimeZone(-59)).AsStringView(), "Z");
 }
 
 TEST(XMLDateTime, IsReadInOtherSpellingsAndAnythingElseThrows) {
@@ -57,7 +56,7 @@ TEST(XMLDateTime, IsReadInOtherSpellingsAndAnythingElseThrows) {
     for (auto const* text : {"1969-12-31T24:00:00.0Z", "1970-01-01T14:00:00+14:00", "1970-01-01T00:00:00-00:00"})
         EXPECT_EQ(Read(text), 0) << text;
     for (auto const* text : {"294247-01-10T04:00:54.775807Z", "294247-01-10T04:00:55Z", "4294967295-12-31T23:59:59Z"})
-        EXPECT_EQ(Read(text), kLast) << text;
+        EXPECT_EQ(Read(text), LLONG_MAX) << text;
     std::string const day = "1970-01-01";
     for (auto const* time : {"", "T", " 00:00:00Z", "t00:00:00Z", "T00:00Z", "T00:00:00.Z", "T00:00:00z", "T00:00:00ZZ",
                              "T00:00:00+0000", "T00:00:00+00", "T00:00:00+14:01", "T00:00:00+00:60", "T24:00:01Z",

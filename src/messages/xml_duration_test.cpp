@@ -2,15 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include <limits>
+#include <climits>
 #include <string>
+#include <utility>
 
 #include "foundation/base/debuggable_exception.h"
 
 namespace {
-
-constexpr auto kFirst = std::numeric_limits<long long>::min();
-constexpr auto kLast = std::numeric_limits<long long>::max();
 
 std::string Written(long long microseconds) {
     return std::string(TimeIntervalToXMLDuration(TimeInterval(microseconds)).AsStringView());
@@ -24,10 +22,7 @@ std::string ReadAs(std::string_view text) {
     }
 }
 
-struct Row {
-    char const* text;
-    long long microseconds;
-};
+using Row = std::pair<char const*, long long>;
 
 constexpr Row kWritten[] = {{"PT0S", 0},
                             {"PT0.000500S", 500},
@@ -38,8 +33,8 @@ constexpr Row kWritten[] = {{"PT0S", 0},
                             {"P1D", 86'400'000'000},
                             {"-P1DT1H", -90'000'000'000},
                             {"PT23H59M59.999999S", 86'399'999'999},
-                            {"P106751991DT4H54.775807S", kLast},
-                            {"-P106751991DT4H54.775808S", kFirst}};
+                            {"P106751991DT4H54.775807S", LLONG_MAX},
+                            {"-P106751991DT4H54.775808S", LLONG_MIN}};
 constexpr Row kReadToo[] = {{"P2D", 172'800'000'000}, {"PT36H", 129'600'000'000},
                             {"P0DT0H0M0.0S", 0},      {"-PT0S", 0},
                             {"PT1.5S", 1'500'000},    {"PT1.050S", 1'050'000},
