@@ -28,6 +28,9 @@ std::string Request(unsigned long long id, std::string const& more = "") {
 std::string Removal(unsigned long long id, std::string const& type) {
     return "<RemoveRequest><RemoveType>" + type + "</RemoveType><ID>" + std::to_string(id) + "</ID></RemoveRequest>";
 }
+std::string Taken(unsigned long long id) {
+    return "ActionTaken false false " + std::to_string(id);
+}
 char const kAsk[] = "<PreActionMessage>Sure?</PreActionMessage>";
 
 std::string Deadline(long long secondsFromNow) {
@@ -35,8 +38,7 @@ std::string Deadline(long long secondsFromNow) {
     return "<ForceRun>1</ForceRun><Deadline>" + std::string(TimeToText(time).AsStringView()) + "</Deadline>";
 }
 
-class CoreTest : public testing::Test {
-  protected:
+struct CoreTest : testing::Test {
     void SetUp() override {
         actions.Clear();
         m_postponedTo = Instant(0);
@@ -46,16 +48,19 @@ class CoreTest : public testing::Test {
         Replies();
     }
 
-    void Queue(std::string const& children) {
-        readQ.WriteMessage(UIMessage(UStringRef<UTF8>("<ClientToUI>" + children + "</ClientToUI>")));
-    }
+    void Queue(std::string const& document) { readQ.WriteMessage(UIMessage(UStringRef<UTF8>(document))); }
     void Receive(std::string const& children) {
-        Queue(children);
+        Queue("<ClientToUI>" + children + "</ClientToUI>");
         ProcessMessagesFromClient();
     }
     void Decide(UICommandType type, unsigned long long id = 0, int minutes = 0, long long deadline = 0) {
         QueueCommand(type, id, minutes, deadline);
         ProcessMessagesFromUI();
+    }
+    void Sweep() {
+        initialized = true;
+        m_postponedTo = Instant(INT64_MAX);
+        ServiceTimerTick();
     }
     std::vector<unsigned long long> Pending() {
         std::vector<unsigned long long> ids;
@@ -79,27 +84,14 @@ class CoreTest : public testing::Test {
 };
 
 TEST_F(CoreTest, ABadMessageDropsTheRestOfItsBatchOnly) {
-    Queue(Request(1) + "<Unknown/>");
-    Queue("");
-    Queue(Request(2) + Request(3, "<ID>x</ID>") + "<ActionRequest><ID>y</ID></ActionRequest>" + Request(4));
-    Queue(Request(5));
-    ProcessMessagesFromClient();
-    EXPECT_THAT(Pending(), ElementsAre(1, 2, 3));
-    Receive(Request(6));
-    EXPECT_THAT(Pending(), ElementsAre(1, 2, 3, 6));
-}
-
-TEST_F(CoreTest, AMessageWithoutAnyElementIsBad) {
-    readQ.WriteMessage(UIMessage(UStringRef<UTF8>("no markup")));
-    Queue(Request(1));
-    ProcessMessagesFromClient();
-    EXPECT_THAT(Pending(), IsEmpty());
-}
-
-TEST_F(CoreTest, TheRootsNameIsNotLookedAt) {
-    readQ.WriteMessage(UIMessage(UStringRef<UTF8>("<Anything>" + Request(1) + "</Anything>")));
-    ProcessMessagesFromClient();
-    EXPECT_THAT(Pending(), ElementsAre(1));
+    Queue("<AnyRoot><Unknown></Unknown>" + Request(1) + "</AnyRoot>");
+    Queue("<ClientToUI>" + Request(2) + "<ActionRequest><ID>y</ID></ActionRequest>" + Request(3) + "</ClientToUI>");
+    Receive(Request(4));
+    Queue("no markup");
+    Receive(Request(5));
+    EXPECT_THAT(Pending(), ElementsAre(1, 2));
+    Receive(Request(6, "<ID>x</ID>"));
+    EXPECT_THAT(Pending(), ElementsAre(1, 2, 6));
 }
 
 TEST_F(CoreTest, RemovalTakesTheFirstOfEqualIDsAndOfferNothing) {
@@ -113,37 +105,19 @@ TEST_F(CoreTest, RemovalTakesTheFirstOfEqualIDsAndOfferNothing) {
     EXPECT_THAT(Pending(), ElementsAre(1, 2));
 }
 
-TEST_F(CoreTest, QuietModeBeginsEvenWhenItsTimesAreBad) {
-    Receive("<QuietModeStart><StartTime>never</StartTime></QuietModeStart>");
-    EXPECT_TRUE(inQuietMode);
-    Receive("<QuietModeEnd></QuietModeEnd>");
-    EXPECT_FALSE(inQuietMode);
-}
-
 TEST_F(CoreTest, TakeAndCancelAnswerOnceAndOnlyForPendingActions) {
     Receive(Request(1) + Request(2, kAsk) + Request(3, kAsk));
     Decide(UICommandType::Take, 1);
     Decide(UICommandType::Take, 1);
     Decide(UICommandType::Cancel, 2);
     Decide(UICommandType::Cancel, 2);
-    EXPECT_THAT(Replies(), ElementsAre("ActionTaken false false 1", "ActionTaken true false 2"));
+    EXPECT_THAT(Replies(), ElementsAre(Taken(1), "ActionTaken true false 2"));
     Decide(UICommandType::Take, 3);
     EXPECT_THAT(Replies(), IsEmpty());
     Decide(UICommandType::ConfirmationDeclined, 3);
     EXPECT_THAT(Pending(), ElementsAre(3));
     Decide(UICommandType::ConfirmationAccepted, 3);
-    EXPECT_THAT(Replies(), ElementsAre("ActionTaken false false 3"));
-    EXPECT_THAT(Pending(), IsEmpty());
-}
-
-TEST_F(CoreTest, TakeAllAnswersInListOrderOnceEveryQuestionIsAccepted) {
-    Receive(Request(3) + Request(1, kAsk) + Request(2) + Request(4, kAsk));
-    Decide(UICommandType::TakeAll);
-    Decide(UICommandType::ConfirmationAccepted, 1);
-    EXPECT_THAT(Replies(), IsEmpty());
-    Decide(UICommandType::ConfirmationAccepted, 4);
-    EXPECT_THAT(Replies(), ElementsAre("ActionTaken false false 3", "ActionTaken false false 1",
-                                       "ActionTaken false false 2", "ActionTaken false false 4"));
+    EXPECT_THAT(Replies(), ElementsAre(Taken(3)));
     EXPECT_THAT(Pending(), IsEmpty());
 }
 
@@ -153,12 +127,14 @@ TEST_F(CoreTest, ADeclinedQuestionAbandonsTheWholeTakeAll) {
     Decide(UICommandType::ConfirmationAccepted, 1);
     Decide(UICommandType::ConfirmationDeclined, 2);
     Decide(UICommandType::ConfirmationAccepted, 2);
-    EXPECT_THAT(Replies(), ElementsAre("ActionTaken false false 2"));
+    EXPECT_THAT(Replies(), ElementsAre(Taken(2)));
+    Decide(UICommandType::TakeAll);
+    EXPECT_THAT(Replies(), IsEmpty()) << "it is asked about again";
     EXPECT_THAT(Pending(), ElementsAre(1));
 }
 
 // Whatever of 1 to 5 is withdrawn while 3 is asked about, the take-all still asks about each of 1, 3 and 5 that is left
-// before it answers.
+// before it answers, in the list's order.
 TEST_F(CoreTest, WithdrawalsDuringATakeAllSkipNoQuestion) {
     for (unsigned withdrawn = 0; withdrawn < 32; ++withdrawn) {
         SetUp();
@@ -167,35 +143,29 @@ TEST_F(CoreTest, WithdrawalsDuringATakeAllSkipNoQuestion) {
         Decide(UICommandType::ConfirmationAccepted, 1);
         Names expected;
         for (unsigned id = 1; id <= 5; ++id) {
-            if (withdrawn & 1u << (id - 1))
-                Receive(Removal(id, "Action"));
-            else
-                expected.push_back("ActionTaken false false " + std::to_string(id));
+            bool const stays = !(withdrawn & 1u << (id - 1));
+            stays ? expected.push_back(Taken(id)) : Receive(Removal(id, "Action"));
         }
         Decide(UICommandType::ConfirmationAccepted, 3);
-        bool const five_is_left = !(withdrawn & 16);
-        if (five_is_left) {
+        if (actions.FindAction(5)) {
             EXPECT_THAT(Replies(), IsEmpty());
             Decide(UICommandType::ConfirmationAccepted, 5);
         }
         EXPECT_EQ(Replies(), expected) << withdrawn;
+        EXPECT_THAT(Pending(), IsEmpty());
     }
 }
 
 TEST_F(CoreTest, ASweepDuringATakeAllSkipsNoQuestionEither) {
-    initialized = true;
-    m_postponedTo = Instant(INT64_MAX);
     Receive(Request(1, Deadline(-2)) + Request(2, Deadline(-2)) + Request(3, kAsk) + Request(4, kAsk) +
             Request(5, kAsk + Deadline(-2)) + Request(6));
     Decide(UICommandType::TakeAll);
-    ServiceTimerTick();
-    EXPECT_THAT(Replies(),
-                ElementsAre("ActionTaken false false 1", "ActionTaken false false 2", "ActionTaken false false 5"));
+    Sweep();
+    EXPECT_THAT(Replies(), ElementsAre(Taken(1), Taken(2), Taken(5)));
     Decide(UICommandType::ConfirmationAccepted, 3);
     EXPECT_THAT(Replies(), IsEmpty());
     Decide(UICommandType::ConfirmationAccepted, 4);
-    EXPECT_THAT(Replies(),
-                ElementsAre("ActionTaken false false 3", "ActionTaken false false 4", "ActionTaken false false 6"));
+    EXPECT_THAT(Replies(), ElementsAre(Taken(3), Taken(4), Taken(6)));
 }
 
 TEST_F(CoreTest, AnAnswerToAnotherQuestionDoesNotContinueTheTakeAll) {
@@ -203,9 +173,9 @@ TEST_F(CoreTest, AnAnswerToAnotherQuestionDoesNotContinueTheTakeAll) {
     Decide(UICommandType::Take, 2);
     Decide(UICommandType::TakeAll);
     Decide(UICommandType::ConfirmationAccepted, 2);
-    EXPECT_THAT(Replies(), ElementsAre("ActionTaken false false 2"));
+    EXPECT_THAT(Replies(), ElementsAre(Taken(2)));
     Decide(UICommandType::ConfirmationAccepted, 1);
-    EXPECT_THAT(Replies(), ElementsAre("ActionTaken false false 1"));
+    EXPECT_THAT(Replies(), ElementsAre(Taken(1)));
 }
 
 TEST_F(CoreTest, ASnoozeSendsItsTimeAndThenItsInterval) {
@@ -226,21 +196,19 @@ TEST_F(CoreTest, ASnoozeSendsItsTimeAndThenItsInterval) {
     EXPECT_THAT(Replies(), ElementsAre("RemindTime Wed, 18 Nov 2026 02:16:00 +0000", "RemindInterval PT0S"));
     Decide(UICommandType::Snooze, 0, 30, 0);
     EXPECT_THAT(Replies(), ElementsAre(testing::StartsWith("RemindTime "), "RemindInterval PT30M"));
-    auto const left = (m_postponedTo - Instant::Now()).Microseconds();
-    EXPECT_NEAR(static_cast<double>(left), 30e6 * 60, 3e6);
+    EXPECT_NEAR(static_cast<double>((m_postponedTo - Instant::Now()).Microseconds()), 30e6 * 60, 3e6);
 }
 
 TEST_F(CoreTest, TheSweepTakesOverdueForcedActionsOutsideQuietModeOnly) {
-    initialized = true;
-    m_postponedTo = Instant(INT64_MAX);
     Receive(Request(1, Deadline(-2) + kAsk) + Request(2, Deadline(60)) + Request(3, Deadline(-2)) +
             Request(4, "<Deadline>Thu, 01 Jan 1970 00:00:00 +0000</Deadline>") + Request(5, "<ForceRun>1</ForceRun>"));
-    Receive("<QuietModeStart></QuietModeStart>");
-    ServiceTimerTick();
+    // It begins even when its times are bad.
+    Receive("<QuietModeStart><StartTime>never</StartTime></QuietModeStart>");
+    Sweep();
     EXPECT_THAT(Replies(), IsEmpty());
     Receive("<QuietModeEnd></QuietModeEnd>");
-    ServiceTimerTick();
-    EXPECT_THAT(Replies(), ElementsAre("ActionTaken false false 1", "ActionTaken false false 3"));
+    Sweep();
+    EXPECT_THAT(Replies(), ElementsAre(Taken(1), Taken(3)));
     EXPECT_THAT(Pending(), ElementsAre(2, 4, 5));
 }
 
