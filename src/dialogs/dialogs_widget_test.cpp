@@ -68,14 +68,13 @@ class DialogsTest : public testing::Test {
         Commands();
     }
 
-    void Pend(
-        int count, std::function<void(ActionRequest&)> change = [](ActionRequest&) {}) {
+    void Pend(int count, std::function<void(ActionRequest&)> change = {}) {
         actions.Clear();
         for (int i = 0; i < count; ++i) {
             ActionRequest action;
             action.id = static_cast<unsigned long long>(i);
             action.SetTitle(("Action " + std::to_string(i)).c_str());
-            change(action);
+            if (change) change(action);
             actions.Append(action);
         }
     }
@@ -119,8 +118,7 @@ class DialogsTest : public testing::Test {
         WidgetList children = nullptr;
         Cardinal count = 0;
         XtVaGetValues(InDialog(viewport), XtNchildren, &children, XtNnumChildren, &count, nullptr);
-        auto* list = std::find_if(children, children + count, [](Widget w) { return XtClass(w) == listWidgetClass; });
-        return *list;
+        return *std::find_if(children, children + count, [](Widget w) { return XtClass(w) == listWidgetClass; });
     }
     static void SelectRow(int row) {
         XawListHighlight(ListIn("form.viewport"), row);
@@ -154,35 +152,25 @@ class DialogsTest : public testing::Test {
     }
 };
 
-TEST_F(DialogsTest, TheListsScrollBarComesAndGoesBesideTheRows) {
-    Pend(2);
-    Show();
-    for (int count : {20, 3, 0, 500, 3000, 1}) {
-        Pend(count);
-        Refresh();
-        EXPECT_LE(HeightOf(ListIn("form.viewport")), 32767) << count;
-        Widget bar = VerticalScrollbar(InDialog("form.viewport"));
-        EXPECT_EQ(bar != nullptr, count > 5) << count;
-        // The window's width is the buttons', with or without the bar.
-        EXPECT_EQ(WidthOf(InDialog("form.viewport")), WidthOf(InDialog("form.actiontitle"))) << count;
-    }
-}
-
-TEST_F(DialogsTest, EverythingFitsTheWindowAfterEachRefresh) {
+TEST_F(DialogsTest, EverythingFitsTheWindowAfterEachRefreshAndTheScrollBarComesAndGoes) {
     Pend(3, [](ActionRequest& action) { action.preview = SharedUString<UTF8>(); });
     Show();
-    for (int count : {3, 1, 0, 30, 2}) {
+    for (int count : {3, 20, 3, 0, 500, 3000, 1}) {
+        SCOPED_TRACE(count);
         Pend(count);
         Refresh();
-        Widget const form = InDialog("form");
+        EXPECT_LE(HeightOf(ListIn("form.viewport")), 32767);
+        EXPECT_EQ(VerticalScrollbar(InDialog("form.viewport")) != nullptr, count > 5);
+        // With or without the bar.
+        for (auto name : {"form.viewport", "form.actiondesc"})
+            EXPECT_EQ(WidthOf(InDialog(name)), WidthOf(InDialog("form.actiontitle"))) << name;
         int right = 4;
         for (auto name : {"form.takeAllActions", "form.takeActions", "form.cancelAction", "form.actionDetails"}) {
-            EXPECT_GE(LeftOf(InDialog(name)), right) << name << count;
+            EXPECT_GE(LeftOf(InDialog(name)), right) << name;
             right = RightOf(InDialog(name));
         }
         for (auto name : {"form.actionDetails", "form.snoozeButton", "form.viewport", "form.actiondesc"})
-            EXPECT_LE(RightOf(InDialog(name)), WidthOf(form)) << name << count;
-        EXPECT_EQ(WidthOf(InDialog("form.actiontitle")), WidthOf(InDialog("form.actiondesc")));
+            EXPECT_LE(RightOf(InDialog(name)), WidthOf(InDialog("form"))) << name;
     }
 }
 
@@ -200,15 +188,6 @@ TEST_F(DialogsTest, AnEmptiedDialogIsFilledAgain) {
     XawListHighlight(ListIn("form.viewport"), 1);
     Refresh();
     EXPECT_EQ(HighlightedRow(ListIn("form.viewport")), 1) << "pressed, not yet released";
-    Pend(0);
-    Refresh();
-    EXPECT_FALSE(XtIsSensitive(InDialog("form.takeAllActions")));
-    EXPECT_EQ(Text(InDialog("form.snoozeButton"), XtNlabel), "Close");
-    Pend(1);
-    Refresh();
-    EXPECT_TRUE(XtIsSensitive(InDialog("form.takeAllActions")));
-    EXPECT_EQ(Text(InDialog("form.snoozeButton"), XtNlabel), "Snooze");
-    EXPECT_EQ(Text(InDialog("form.actiontitle"), XtNlabel), "There is 1 pending action.");
 }
 
 TEST_F(DialogsTest, ADisabledDialogKeepsItsListAndHearsNothing) {
@@ -216,10 +195,7 @@ TEST_F(DialogsTest, ADisabledDialogKeepsItsListAndHearsNothing) {
     Show();
     Press(InDialog("form.takeAllActions"));
     EXPECT_EQ(Commands(), (std::vector{std::pair(UICommandType::TakeAll, 0ULL)}));
-    for (auto name :
-         {"form.takeAllActions", "form.takeActions", "form.cancelAction", "form.actionDetails", "form.snoozeButton"})
-        EXPECT_FALSE(XtIsSensitive(InDialog(name))) << name;
-    EXPECT_FALSE(XtIsSensitive(ListIn("form.viewport")) || XtIsSensitive(ListIn("form.snoozeViewport")));
+    EXPECT_FALSE(XtIsSensitive(InDialog("form.takeAllActions")) || XtIsSensitive(ListIn("form.viewport")));
     Pend(5);
     Refresh();
     EXPECT_EQ(Text(InDialog("form.actiontitle"), XtNlabel), "There are 2 pending actions.");
@@ -288,7 +264,8 @@ TEST_F(DialogsTest, AConfirmationIsAnsweredOnceAndIsNeverNarrowerThanItsExplanat
 TEST_F(DialogsTest, AConfirmationsButtonsStayOnTheDisplayWhateverItsTitle) {
     std::string many_lines;
     for (int i = 0; i < 5000; ++i) many_lines += "a line that is not wide\n";
-    for (auto const& [title, wide] : {std::pair(std::string(5000, 'w'), true), {many_lines, false}}) {
+    for (auto const& [title, wide] :
+         {std::pair(std::string(1000, 'w'), true), {std::string(5000, 'w'), true}, {many_lines, false}}) {
         Pend(1, [title = title.c_str()](ActionRequest& action) { action.SetTitle(title); });
         ShowConfirmationRequestDialog(0);
         Widget const shell = Shells("ConfirmationDialog").at(0);
@@ -354,9 +331,9 @@ TEST_F(DialogsTest, MessagesAreKnownByTheirIDs) {
     RemoveTimedoutMessageDialogs();
     EXPECT_EQ(Shells("MessageDialog").size(), 199u);
     Press(Find(Shells("MessageDialog")[0], "form.dismiss"));
-    for (unsigned long long id = 1; id <= 198; ++id) RemoveMessageDialog(id);
-    EXPECT_LE(Shells("MessageDialog").size(), 2u);
-    for (unsigned long long id = 199; id <= 200; ++id) RemoveMessageDialog(id);
+    for (int time = 0; time < 2; ++time) RemoveMessageDialog(100);
+    EXPECT_EQ(Shells("MessageDialog").size(), 197u);
+    for (unsigned long long id = 1; id <= 200; ++id) RemoveMessageDialog(id);
     EXPECT_TRUE(Shells("MessageDialog").empty() && Commands().empty());
 }
 
