@@ -9,13 +9,6 @@ class Actions : public ProgramTest {
         Start();
         Play("initialize");
     }
-
-    // As many lines of ten bytes each, as a scenario spells them.
-    static std::string Lines(int count) {
-        std::string lines;
-        for (int line = 1; line <= count; ++line) lines += "line " + std::to_string(10000 + line).substr(1) + "\\n";
-        return lines;
-    }
 };
 
 }  // namespace
@@ -66,7 +59,8 @@ TEST_F(Actions, FiveHundredScroll) {
 
 // With the first and the third button.
 TEST_F(Actions, TenThousandLinesOfScriptOrQuestionScroll) {
-    Play("request id=1 title=Long preview=\"" + Lines(10000) + "\" confirm=\"" + Lines(10000) + "\"");
+    auto const lines = Repeated("a line...\\n", 110000);
+    Play("request id=1 title=Long preview=\"" + lines + "\" confirm=\"" + lines + "\"");
     Play(R"(
         wait window ActionRequestDialog
         select row 1

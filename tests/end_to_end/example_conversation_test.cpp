@@ -2,23 +2,19 @@
 
 #include "tests/support/program_test.h"
 
-namespace {
+class ExampleConversation : public ProgramTest {};
 
-class ExampleConversation : public ProgramTest {
-  protected:
-    // The document with a directory of the test's own in place of the example's.
-    std::string WithBaseDirectory(std::string document) const {
-        std::string const example = "/run/corvane/ui";
-        if (auto at = document.find(example); at != document.npos) {
-            document.replace(at, example.size(), BaseDirectory().string());
-        }
-        return document;
-    }
-
-    void PlayStep(std::string const& name, std::string const& text) {
+TEST_F(ExampleConversation, RunsAsDocumented) {
+    std::set<std::filesystem::path> steps;
+    for (auto const& entry : std::filesystem::directory_iterator(EXAMPLE_CONVERSATION)) steps.insert(entry.path());
+    ASSERT_FALSE(steps.empty());
+    Prepare();
+    for (auto const& step : steps) {
+        auto const name = step.filename().string(), text = Read(step);
         SCOPED_TRACE(name);
         if (name.find("-client-") != name.npos) {
-            EXPECT_TRUE(Program().SendFrame(WithBaseDirectory(text)));
+            // With a directory of the test's own in place of the example's.
+            EXPECT_TRUE(Program().SendFrame(Replaced(text, "/run/corvane/ui", BaseDirectory().string())));
         } else if (name.find("-user-") != name.npos) {
             Play(text);
         } else {
@@ -26,18 +22,4 @@ class ExampleConversation : public ProgramTest {
             EXPECT_EQ(Receive(), text);
         }
     }
-};
-
-}  // namespace
-
-TEST_F(ExampleConversation, RunsAsDocumented) {
-    std::set<std::filesystem::path> steps;
-    for (auto const& entry : std::filesystem::directory_iterator(EXAMPLE_CONVERSATION)) steps.insert(entry.path());
-    ASSERT_FALSE(steps.empty());
-
-    // The greeting comes before anybody can play.
-    auto const greeting = steps.extract(steps.begin()).value();
-    EXPECT_EQ(tools::ClientProcess({PROGRAM_UNDER_TEST, {}}).ReceiveFrame(std::chrono::seconds(1)), Read(greeting));
-    Start();
-    for (auto const& step : steps) PlayStep(step.filename().string(), Read(step));
 }

@@ -6,23 +6,15 @@ namespace {
 
 class Exit : public ProgramTest {
   protected:
+    void ShowOne() {
+        Start();
+        Play("initialize\nrequest id=1 title=One cancellable\nwait window ActionRequestDialog");
+    }
     // The report comes twice.
-    void ExpectReport(std::string const& text, std::string const& code) {
-        for (int time = 0; time < 2; ++time) {
-            EXPECT_EQ(Receive(),
-                      "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-                      "<ClientToUI>\n"
-                      "\t<ClientUIErrorMessage>\n"
-                      "\t\t<DebugString>" +
-                          text +
-                          "</DebugString>\n"
-                          "\t\t<ErrorCode>" +
-                          code +
-                          "</ErrorCode>\n"
-                          "\t</ClientUIErrorMessage>\n"
-                          "</ClientToUI>");
-        }
-        Play("expect exit 0");
+    void ExpectReport(std::string const& text, int code) {
+        auto const report =
+            "expect ClientUIErrorMessage DebugString=\"" + text + "\" ErrorCode=" + std::to_string(code);
+        Play(report + "\n" + report + "\nexpect exit 0");
     }
 };
 
@@ -40,23 +32,15 @@ TEST_F(Exit, WithoutADisplayItIs255) {
 }
 
 TEST_F(Exit, AServerThatDiesIsAnOrdinaryEnd) {
-    Start();
-    Play("initialize\nrequest id=1 title=One\nwait window ActionRequestDialog");
+    ShowOne();
     Display().Kill();
     Play("expect exit 0");
 }
 
 TEST_F(Exit, TheCloseButtonEndsTheProgramWithoutAnAnswer) {
     Display().StartWindowManager();
-    Start();
-    Play(R"(
-        initialize
-        request id=1 title=One cancellable
-        wait window ActionRequestDialog
-        close window
-        wait window ActionRequestDialog gone within 1s
-        expect exit 0
-    )");
+    ShowOne();
+    Play("close window\nwait window ActionRequestDialog gone within 1s\nexpect exit 0");
 }
 
 TEST_F(Exit, AClientThatOnlyStopsReadingIsNoticedByTheNextAnswer) {
@@ -72,15 +56,13 @@ TEST_F(Exit, AClientThatNeverReadIsNoSignal) {
 
 TEST_F(Exit, AWindowThatAnotherProgramDestroysIs255) {
     ending_ = "exit 255";
-    Start();
-    Play("initialize\nrequest id=1 title=One\nwait window ActionRequestDialog");
+    ShowOne();
     Screen().Destroy(Screen().FindWindow("ActionRequestDialog"));
     Play("request id=2 title=Two\nexpect exit 255");
 }
 
 TEST_F(Exit, AConnectionThatTheServerCutsIsAnOrdinaryEnd) {
-    Start();
-    Play("initialize\nrequest id=1 title=One\nwait window ActionRequestDialog");
+    ShowOne();
     Screen().KillOwner(Screen().FindWindow("ActionRequestDialog"));
     Play("expect exit 0");
 }
@@ -93,7 +75,7 @@ TEST_F(Exit, AServerWithoutAFontThatFitsIsReported) {
     Start();
     Screen().LeaveFonts(Directory());
     Play("initialize\nrequest id=1 title=One");
-    ExpectReport("noFont (XtToolkitError)", "1");
+    ExpectReport("noFont (XtToolkitError)", 1);
 }
 
 struct UnshowableText {
@@ -109,7 +91,7 @@ TEST_P(Unshowable, IsReportedByTheDialogsName) {
     Start();
     Play("support-file _brand.xlat \"Not Currently Available\\tIndisponible à présent\"\ninitialize");
     Play(GetParam().lines);
-    ExpectReport(GetParam().dialog, "2");
+    ExpectReport(GetParam().dialog, 2);
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -3,18 +3,10 @@
 
 namespace {
 
-size_t const largest_payload = 2097152;
-
 // What a broken or malicious client sends: it may cost itself answers, but no accepted request is lost, and the program
 // goes on.
 class Hostile : public ProgramTest {
   protected:
-    static std::string Repeated(std::string const& unit, size_t size) {
-        std::string text;
-        while (text.size() + unit.size() <= size) text += unit;
-        return text;
-    }
-
     std::string NextTaken() { return tools::ReadAnswer(Receive()).fields["ID"]; }
 
     // Returns once the program handles messages again: what came in one batch with a bad one is lost.

@@ -77,8 +77,7 @@ TEST_P(FailingInitialization, IsFollowedByOneThatSucceeds) {
     Write(Directory() / "file", "in the way");
     Write(Directory() / "full" / "old.txt", "old");
     Start();
-    std::string elements = GetParam().elements;
-    for (size_t at; (at = elements.find('~')) != elements.npos;) elements.replace(at, 1, Directory().string());
+    auto const elements = Replaced(GetParam().elements, "~", Directory().string());
     Program().SendFrame(tools::Document(tools::Element("InitializationInfo", elements)));
     Play("support-file a.txt a");
     std::string initialization = Document("initialize");
@@ -92,9 +91,7 @@ TEST_P(FailingInitialization, IsFollowedByOneThatSucceeds) {
     EXPECT_EQ(Read(Directory() / "file"), "in the way");
 }
 
-std::string FullWith(std::string const& rest) {
-    return "<BaseDirectory>~/full</BaseDirectory>" + rest;
-}
+std::string const in_full = "<BaseDirectory>~/full</BaseDirectory>";
 
 INSTANTIATE_TEST_SUITE_P(
     All, FailingInitialization,
@@ -103,10 +100,11 @@ INSTANTIATE_TEST_SUITE_P(
                       FailingCase{"RelativeBase", "<BaseDirectory>full</BaseDirectory>"},
                       FailingCase{"HalfDone", "<BaseDirectory>~/half</BaseDirectory>" + tools::SupportFile("a", "a") +
                                                   tools::SupportFile(std::string(256, 'b'), "b")},
-                      FailingCase{"NameLeadsOut", FullWith(tools::SupportFile("../file", "over it"))},
-                      FailingCase{"NameIsParent", FullWith(tools::SupportFile("..", "over it"))},
-                      FailingCase{"NoDuration", FullWith("<InitialUISettings><RemindInterval>soon</RemindInterval>"
-                                                         "</InitialUISettings>")}),
+                      FailingCase{"NameLeadsOut", in_full + tools::SupportFile("../file", "over it")},
+                      FailingCase{"NameIsParent", in_full + tools::SupportFile("..", "over it")},
+                      FailingCase{
+                          "NoDuration",
+                          in_full + "<InitialUISettings><RemindInterval>soon</RemindInterval></InitialUISettings>"}),
     [](auto const& of) { return of.param.name; });
 
 struct LocaleCase {

@@ -1,6 +1,19 @@
 #include "tests/support/program_test.h"
 
+#include <stdlib.h>
+
 #include <fstream>
+
+ProgramTest::ProgramTest() {
+    std::string name = (std::filesystem::temp_directory_path() / "xqenclientui.XXXXXX").string();
+    directory_ = mkdtemp(name.data());
+}
+
+ProgramTest::~ProgramTest() {
+    player_.reset();
+    std::error_code ignored;
+    std::filesystem::remove_all(directory_, ignored);
+}
 
 void ProgramTest::Prepare(Environment const& changes, std::vector<std::string> const& arguments) {
     tools::PlayerOptions options;
@@ -30,6 +43,17 @@ void ProgramTest::TearDown() {
     Program().CloseSending();
     EXPECT_EQ(Program().WaitForEnd(std::chrono::seconds(10)), ending_);
     EXPECT_EQ(Program().ReceiveFrame(std::chrono::milliseconds(0)).value_or("nothing"), "nothing");
+}
+
+std::string ProgramTest::Repeated(std::string_view unit, size_t size) {
+    std::string text;
+    while (text.size() + unit.size() <= size) text += unit;
+    return text;
+}
+
+std::string ProgramTest::Replaced(std::string text, std::string_view part, std::string_view by) {
+    for (size_t at = 0; (at = text.find(part, at)) != text.npos; at += by.size()) text.replace(at, part.size(), by);
+    return text;
 }
 
 std::string ProgramTest::Read(std::filesystem::path const& file) {

@@ -2,12 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <map>
 #include <optional>
 #include <string>
 #include <string_view>
 
-#include "tests/support/temporary_directory.h"
 #include "tools/scenario_player.h"
 #include "tools/virtual_display.h"
 
@@ -18,6 +18,9 @@
 // for, and must end as `ending_` says.
 class ProgramTest : public ::testing::Test {
   protected:
+    ProgramTest();
+    ~ProgramTest() override;
+
     using Environment = std::map<std::string, std::optional<std::string>>;
 
     // Starts the program with changes to its environment, and takes its greeting.
@@ -38,17 +41,23 @@ class ProgramTest : public ::testing::Test {
     }
     // The next answer to the byte; throws when there is none.
     std::string Receive() { return player_->Receive(std::chrono::seconds(10)); }
-    std::filesystem::path const& Directory() const { return directory_.Path(); }
+    std::filesystem::path const& Directory() const { return directory_; }
     // The one the program is told to use unless a case names another.
     std::filesystem::path BaseDirectory() const { return Directory() / "base"; }
 
+    // The longest document that the program accepts, in bytes.
+    static constexpr size_t largest_payload = 2097152;
+    // The unit over and over, as often as that size holds it.
+    static std::string Repeated(std::string_view unit, size_t size);
+    // The text with `by` in place of each `part`.
+    static std::string Replaced(std::string text, std::string_view part, std::string_view by);
     // What a file holds; nothing for one that is not there.
     static std::string Read(std::filesystem::path const& file);
 
     std::string ending_ = "exit 0";
 
   private:
-    TemporaryDirectory directory_;
+    std::filesystem::path directory_;
     tools::VirtualDisplay display_;
     std::optional<tools::ScenarioPlayer> player_;
 };
