@@ -39,7 +39,7 @@ class UICommand {
     std::int32_t Minutes() const { return minutes_; }
     // Of a snooze: the earliest deadline in seconds since 1970.
     std::uint32_t DeadlineSeconds() const { return deadline_seconds_; }
-    // Whether no action was pending at the time of the decision: what has come since it was not made about.
+    // Whether no action was pending at the time of the decision, which then is not about what has come since.
     bool NothingWasPending() const { return nothing_pending_; }
 
   private:

@@ -21,7 +21,7 @@ void OnChosen(Widget list, std::function<void(int row)> body);
 void OnNonmaskableEvent(Widget widget, std::function<void(_XEvent const& event)> body);
 
 // Runs `body` every `milliseconds`, counted from the end of the run before, whatever the run throws. When the wall clock
-// is set back meanwhile, the next run may be late by as much again.
+// is set back meanwhile, the next run comes after twice that time at the latest.
 void RunEvery(unsigned long milliseconds, void (*body)());
 
 // The body of an action: the widget whose translation named it and the event that matched.

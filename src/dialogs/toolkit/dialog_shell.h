@@ -34,6 +34,6 @@ void CenterDialogOnDisplay(Widget shell);
 // is sent. Every other event is ignored.
 void SystemMenuClose(Widget widget, _XEvent const& event);
 
-// Registers "SystemMenuClose" and "Nothing", which swallows an event, also in users' translations: once an application,
-// before its first dialog.
+// Registers "SystemMenuClose", and "Nothing" for translations that swallow an event, users' own among them: once an
+// application, before its first dialog.
 void RegisterDialogActions();
