@@ -85,7 +85,7 @@ TEST(ActionRequestStoreTest, UpdatesOverwriteAndRaiseNearForcedDeadlines) {
     ActionRequestStore store;
     store.UpdateActions(first);
     EXPECT_GE(*store.GetAction(1).Deadline(), *first[0].Deadline() + TimeInterval::Seconds(60));
-    for (unsigned long long id : {2, 3}) EXPECT_EQ(*store.GetAction(id).Deadline(), *first[id - 1].Deadline());
+    for (unsigned long long id : {2ULL, 3ULL}) EXPECT_EQ(*store.GetAction(id).Deadline(), *first[id - 1].Deadline());
     store.UpdateActions(second);
     store.UpdateActions({});
     EXPECT_EQ(store.GetAction(1).title.AsStringView(), "later");
