@@ -181,7 +181,7 @@ TEST_F(CoreTest, AnAnswerToAnotherQuestionDoesNotContinueTheTakeAll) {
 TEST_F(CoreTest, ASnoozeSendsItsTimeAndThenItsInterval) {
     // Over an empty list, whatever comes before it is looked at.
     Decide(UICommandType::Snooze, 0, 30);
-    QueueCommand(UICommandType::Snooze, 0, 30, 0);
+    QueueCommand(UICommandType::Snooze, 0, 30, 0, true);
     Receive(Request(1));
     ProcessMessagesFromUI();
     EXPECT_THAT(Replies(), IsEmpty());

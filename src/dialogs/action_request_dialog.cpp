@@ -80,7 +80,7 @@ void SnoozePressed() {
         int const minutes = dialog.choices[static_cast<std::size_t>(dialog.selected_choice)].minutes;
         HideActionRequestDialog();
         QueueCommand(UICommandType::Snooze, 0, minutes,
-                     dialog.earliest_deadline.Microseconds() / TimeInterval::kSecond);
+                     dialog.earliest_deadline.Microseconds() / TimeInterval::kSecond, actions.empty());
     }
     if (actions.empty()) HideActionRequestDialog();
 }

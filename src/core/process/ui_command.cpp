@@ -2,8 +2,6 @@
 
 #include <utility>
 
-#include "core/process/process_state.h"
-
 // Never destroyed, so that it may be used at any moment of the exit.
 UICommandQueue& uiCommandQ = *new UICommandQueue;
 
@@ -17,7 +15,8 @@ void UICommandQueue::ReadMessages(FiFoQueue<std::unique_ptr<UICommand>>& out) {
     commands_.Swap(out);
 }
 
-void QueueCommand(UICommandType type, unsigned long long actionID, int minutes, long long deadlineSeconds) {
+void QueueCommand(UICommandType type, unsigned long long actionID, int minutes, long long deadlineSeconds,
+                  bool nothingPending) {
     auto seconds = static_cast<std::uint32_t>(deadlineSeconds);
-    uiCommandQ.WriteMessage(std::make_unique<UICommand>(type, actionID, minutes, seconds, actions.empty()));
+    uiCommandQ.WriteMessage(std::make_unique<UICommand>(type, actionID, minutes, seconds, nothingPending));
 }

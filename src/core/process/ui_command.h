@@ -39,7 +39,7 @@ class UICommand {
     std::int32_t Minutes() const { return minutes_; }
     // Of a snooze: the earliest deadline in seconds since 1970.
     std::uint32_t DeadlineSeconds() const { return deadline_seconds_; }
-    // Whether no action was pending at the time of the decision, which then is not about what has come since.
+    // Of a snooze: whether no action was pending when the user decided. What has come since is not put off then.
     bool NothingWasPending() const { return nothing_pending_; }
 
   private:
@@ -66,6 +66,7 @@ class UICommandQueue {
 
 extern UICommandQueue& uiCommandQ;
 
-// Appends a command to `uiCommandQ`, decided over the pending list as it stands. Main thread only. Only the low 32 bits
-// of `deadlineSeconds` are kept, and read back as an unsigned number: that is meant, the field has that width.
-void QueueCommand(UICommandType type, unsigned long long actionID, int minutes, long long deadlineSeconds);
+// Appends a command to `uiCommandQ`; any thread may call. Only the low 32 bits of `deadlineSeconds` are kept, and read
+// back as an unsigned number: that is meant, the field has that width.
+void QueueCommand(UICommandType type, unsigned long long actionID, int minutes, long long deadlineSeconds,
+                  bool nothingPending = false);
