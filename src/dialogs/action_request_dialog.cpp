@@ -79,8 +79,8 @@ void SnoozePressed() {
     if (dialog.selected_choice >= 0) {
         int const minutes = dialog.choices[static_cast<std::size_t>(dialog.selected_choice)].minutes;
         HideActionRequestDialog();
-        QueueCommand(UICommandType::Snooze, 0, minutes,
-                     dialog.earliest_deadline.Microseconds() / TimeInterval::kSecond, actions.empty());
+        QueueCommand(UICommandType::Snooze, 0, minutes, dialog.earliest_deadline.Microseconds() / TimeInterval::kSecond,
+                     actions.empty());
     }
     if (actions.empty()) HideActionRequestDialog();
 }
