@@ -4,7 +4,6 @@
 #include <thread>
 #include <vector>
 
-#include "foundation/text/copied_ustring.h"
 #include "foundation/text/shared_ustring.h"
 #include "foundation/text/ustring_builder.h"
 
@@ -13,29 +12,12 @@ namespace {
 using Ref = UStringRef<UTF8>;
 using Shared = SharedUString<UTF8>;
 
-TEST(UStringRef, OrdersByUnsignedUnitsAndShorterFirst) {
-    for (auto [less, more] : {std::pair<Ref, Ref>{"", "a"}, {"a", "ab"}, {"a", "b"}, {"z", "\x80"}, {"\x7F", "\xFF"}})
-        EXPECT_TRUE(less < more && !(more < less) && !(less == more) && less == less) << less.AsStringView();
-    UTF32::Unit const small[] = {0x7FFFFFFF}, large[] = {0x80000000};
-    EXPECT_TRUE(UStringRef<UTF32>(small, small + 1) < UStringRef<UTF32>(large, large + 1));
-}
-
 TEST(AutoUString, OwnsATerminatedCopyAndMovesAway) {
     AutoUString<UTF8> text(Ref("abc"));
     EXPECT_EQ(*text.end(), 0);
     AutoUString<UTF8> moved(std::move(text));
     EXPECT_EQ(moved.AsStringView(), "abc");
     EXPECT_TRUE(text.empty() && text.begin() == nullptr);
-    EXPECT_TRUE(moved.Ref().KnownValid());
-    EXPECT_FALSE(MakeUString(moved.begin(), moved.end(), UTF8()).Ref().KnownValid());
-    EXPECT_EQ(MakeUString(Ref("")).begin(), nullptr);
-}
-
-TEST(CopiedUString, CopiesWhole) {
-    CopiedUString<UTF8> first(Ref("abc")), second(first);
-    EXPECT_NE(first.Ref().begin(), second.Ref().begin());
-    first = CopiedUString<UTF8>(Ref("x"));
-    EXPECT_TRUE(first == CopiedUString<UTF8>(Ref("x")) && second == CopiedUString<UTF8>(Ref("abc")));
 }
 
 TEST(UStringBuilder, GrowsToAtLeastTwiceAndKeepsItsContent) {
@@ -49,12 +31,7 @@ TEST(UStringBuilder, GrowsToAtLeastTwiceAndKeepsItsContent) {
         moves += builder.Ref().begin() != before;
     }
     EXPECT_LE(moves, 18);
-    EXPECT_TRUE(builder.MakeString().AsStringView() == expected && builder.Ref().KnownValid());
-    builder.Append(Ref(std::string_view("\xFF")));
-    builder.Append("abc");
-    EXPECT_FALSE(builder.MakeString().Ref().KnownValid());
-    builder.Clear();
-    EXPECT_TRUE(builder.MakeString().empty());
+    EXPECT_EQ(builder.MakeString().AsStringView(), expected);
 }
 
 TEST(SharedUString, CopiesStandOverOneBufferUntilTheLastGoes) {
@@ -65,22 +42,8 @@ TEST(SharedUString, CopiesStandOverOneBufferUntilTheLastGoes) {
     EXPECT_EQ(copy.begin(), moved.begin());
     assigned = copy;
     copy = none;
-    moved = Shared(std::move(assigned));
-    assigned = moved;
     moved = static_cast<Shared const&>(moved);
     EXPECT_TRUE(copy.empty() && moved == Ref("abc") && assigned == moved);
-}
-
-TEST(SharingLink, ExactlyOneOfAllSharersIsToldThatItIsTheLast) {
-    SharingLink first, second(first), other;
-    EXPECT_FALSE(first.Alone());
-    second.swap(other);
-    EXPECT_TRUE(second.Alone() && !other.Alone());
-    other = second;
-    EXPECT_TRUE(first.Alone());
-    EXPECT_FALSE(second.Leave());
-    EXPECT_TRUE(other.Leave());
-    EXPECT_FALSE(other.Leave());
 }
 
 TEST(SharedUString, ThreadsCopyAndDropOneStringAtTheSameTime) {
