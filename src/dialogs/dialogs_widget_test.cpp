@@ -23,7 +23,7 @@
 #include "dialogs/toolkit/list_rows.h"
 #include "dialogs/toolkit/scroll_bars.h"
 #include "dialogs/toolkit/widgets.h"
-#include "tools/virtual_display.h"
+#include "tests/support/dialog_display.h"
 #include "tools/waiting.h"
 
 #undef Bool
@@ -45,20 +45,9 @@ extern "C" int gettimeofday(timeval* now, void*) noexcept {
 
 namespace {
 
-void OpenDisplay() {
-    static tools::VirtualDisplay server;
-    if (display) return;
-    std::setlocale(LC_ALL, "C.UTF-8");
-    XtToolkitInitialize();
-    app_context = XtCreateApplicationContext();
-    int count = 0;
-    display = XtOpenDisplay(app_context, server.Name().c_str(), "test", "XQENClientUI", nullptr, 0, &count, nullptr);
-    RegisterDialogActions();
-}
-
 class DialogsTest : public testing::Test {
   protected:
-    void SetUp() override { OpenDisplay(); }
+    void SetUp() override { OpenDialogDisplay(); }
     void TearDown() override {
         actions.Clear();
         HideActionRequestDialog();

@@ -1,30 +1,17 @@
 #include <X11/Intrinsic.h>
 #include <benchmark/benchmark.h>
 
-#include <clocale>
 #include <string>
 
 #include "core/process/process_state.h"
 #include "core/process/x_connection.h"
 #include "dialogs/action_details_dialog.h"
 #include "dialogs/action_request_dialog.h"
-#include "dialogs/toolkit/dialog_shell.h"
-#include "tools/virtual_display.h"
+#include "tests/support/dialog_display.h"
 
 // The action request dialog and a script's preview on a virtual display.
 
 namespace {
-
-void OpenDisplay() {
-    static tools::VirtualDisplay server;
-    if (display) return;
-    std::setlocale(LC_ALL, "C.UTF-8");
-    XtToolkitInitialize();
-    app_context = XtCreateApplicationContext();
-    int count = 0;
-    display = XtOpenDisplay(app_context, server.Name().c_str(), "bench", "XQENClientUI", nullptr, 0, &count, nullptr);
-    RegisterDialogActions();
-}
 
 ActionRequest Action(std::int64_t i) {
     ActionRequest action;
@@ -37,7 +24,7 @@ ActionRequest Action(std::int64_t i) {
 // One refresh as a tick does it: every text converted, the rows replaced, everything laid out and sent to the server. The
 // last action comes and goes, since equal rows are not replaced.
 void RefreshOfTheActionRequestDialog(benchmark::State& state) {
-    OpenDisplay();
+    OpenDialogDisplay();
     actions.Clear();
     for (std::int64_t i = 1; i < state.range(0); ++i) actions.Append(Action(i));
     auto const others = actions.size();
@@ -65,7 +52,7 @@ BENCHMARK(RefreshOfTheActionRequestDialog)
 
 // From the request for a preview of so many lines to its window, as the server has it.
 void OpeningOfAPreview(benchmark::State& state) {
-    OpenDisplay();
+    OpenDialogDisplay();
     std::string script;
     for (std::int64_t i = 0; i < state.range(0); ++i) script += "echo this is one line of a long script\n";
     auto action = Action(1);
