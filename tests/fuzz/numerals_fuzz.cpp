@@ -6,13 +6,12 @@
 
 template <class T>
 static void Check(std::string_view text, int base, NumeralResult (*read)(ConstData, T&)) {
-    using enum NumeralResult;
-    T value = 0, expected = 0;
-    NumeralResult const result = read(text, value);
+    T value = 0, right = 0;
+    auto const got = read(text, value);
     if (std::is_signed_v<T> && text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
-    auto const [stop, error] = std::from_chars(text.data(), text.data() + text.size(), expected, base);
-    if (error == std::errc::invalid_argument || stop != text.data() + text.size()) return Require(result != Success);
-    Require(result == (error == std::errc() ? Success : TooLarge) && (result == TooLarge || value == expected));
+    auto const [stop, error] = std::from_chars(text.begin(), text.end(), right, base);
+    if (error == std::errc::invalid_argument || stop != text.end()) return Require(got != NumeralResult::Success);
+    Require(error == std::errc() ? got == NumeralResult::Success && value == right : got == NumeralResult::TooLarge);
 }
 
 void Fuzz(std::string_view input) {
