@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
+#include <atomic>
 #include <climits>
 #include <future>
 #include <thread>
@@ -17,47 +17,30 @@ TimeInterval const no_time(0), forever(LLONG_MAX);
 
 TEST(Mutex, IsOwnedUntilTheLastReleaseOfItsOwner) {
     Mutex mutex;
-    auto another_thread_gets_it = [&] {
-        auto attempt = [&] {
-            Mutex* const taken = TryMutex(mutex);
-            ReleaseMutex(taken);
-            return taken == &mutex;
-        };
-        return std::async(std::launch::async, attempt).get();
+    auto attempt = [&] {
+        Mutex* const taken = TryMutex(mutex);
+        ReleaseMutex(taken);
+        return taken;
     };
     EXPECT_EQ(WaitForMutex(mutex), &mutex);
     EXPECT_EQ(TryMutex(mutex), &mutex);
     ReleaseMutex(&mutex);
-    EXPECT_FALSE(another_thread_gets_it());
+    EXPECT_EQ(std::async(std::launch::async, attempt).get(), nullptr);
     ReleaseMutex(&mutex);
-    EXPECT_TRUE(another_thread_gets_it());
+    EXPECT_EQ(std::async(std::launch::async, attempt).get(), &mutex);
     EXPECT_THROW(ReleaseMutex(&mutex), MutexError);
 }
 
-TEST(Mutex, LetsOneThreadInAtATime) {
-    Mutex mutex;
-    int count = 0;
-    auto add = [&] {
-        for (int i = 0; i < 3'000; ++i, ReleaseMutex(&mutex)) {
-            WaitForMutex(mutex);
-            int const found = count;
-            std::this_thread::yield();
-            count = found + 1;
-        }
-    };
-    { std::jthread first(add), second(add), third(add); }
-    EXPECT_EQ(count, 9'000);
-}
-
-TEST(Event, LetsWaitersThroughWhileItIsSet) {
+TEST(Event, LetsWaitersThroughWhileItIsSetAndFiresWhatIsLinked) {
     Event first, second;
+    EventSignal linked;
+    EventLink link(linked, first);
     EXPECT_FALSE(WaitForSingleEvent(first, no_time));
     EXPECT_FALSE(WaitForTwoEvents(first, second, TimeInterval(LLONG_MIN)));
     SetEvent(first);
+    EXPECT_TRUE(linked.WaitOnSignal(forever));
     EXPECT_TRUE(WaitForSingleEvent(first, forever));
-    EXPECT_TRUE(WaitForTwoEvents(first, second, forever));
     EXPECT_TRUE(WaitForTwoEvents(second, first, forever));
-    EXPECT_FALSE(WaitForSingleEvent(second, no_time));
     ResetEvent(first);
     EXPECT_FALSE(WaitForTwoEvents(first, second, TimeInterval(1)));
 }
@@ -78,29 +61,6 @@ TEST(Event, WakesAThreadThatWaitsInAnyWay) {
     };
     { std::jthread first(play, 0), second(play, 1); }
     EXPECT_EQ(turn, 2000);
-}
-
-TEST(Event, FiresWhatIsLinkedAndThatStaysFired) {
-    Event event;
-    EventSignal linked, unlinked;
-    EventLink link(linked, event);
-    { EventLink gone(unlinked, event); }
-    event.SetEvent();
-    EXPECT_TRUE(linked.WaitOnSignal(forever));
-    EXPECT_FALSE(unlinked.WaitOnSignal(no_time));
-}
-
-TEST(Timeout, IsTheClockPlusTheIntervalWithTheNanosecondsCarried) {
-    using namespace std::chrono;
-    auto now = [] { return duration_cast<microseconds>(system_clock::now().time_since_epoch()).count(); };
-    for (long long interval : {LLONG_MIN, -1LL, 0LL, 1LL, 999'999LL, 61'500'000LL, LLONG_MAX}) {
-        auto const before = now();
-        timespec const deadline = ConvertToTimeout(TimeInterval(interval), ThrowError<EventError>);
-        __int128 const end = deadline.tv_sec * __int128{1'000'000} + deadline.tv_nsec / 1000;
-        __int128 const start = end - std::max(interval, 0LL);
-        EXPECT_TRUE(before <= start && start <= now()) << interval;
-        EXPECT_LT(deadline.tv_nsec, 1'000'000'000);
-    }
 }
 
 }  // namespace

@@ -19,10 +19,6 @@ using tools::Frame;
 
 std::string const big(100'000, 'b');
 
-std::string Header(std::string const& text) {
-    return Frame(text).substr(0, 4);
-}
-
 int BytesWaiting(int descriptor) {
     int count = 0;
     ioctl(descriptor, FIONREAD, &count);
@@ -80,17 +76,11 @@ struct Connection {
         ssize_t const count = read(receiving.Get(), bytes, sizeof bytes);
         return {bytes, static_cast<std::size_t>(std::max<ssize_t>(count, 0))};
     }
-    // What it reads up to the end, or until it has read so much.
-    std::string Sent(std::size_t limit = std::string::npos) {
+    // What it reads up to the end.
+    std::string Sent() {
         std::string bytes;
-        for (std::string more; bytes.size() < limit && !(more = ReadOnce()).empty();) bytes += more;
+        for (std::string more; !(more = ReadOnce()).empty();) bytes += more;
         return bytes;
-    }
-    // Leaves room for that many bytes in the outbound pipe, and gives back what fills it.
-    std::string FillOutput(std::size_t room) {
-        std::string const filling(static_cast<std::size_t>(fcntl(from_pipe[1], F_SETPIPE_SZ, 4096)) - room, '.');
-        EXPECT_EQ(write(from_pipe[1], filling.data(), filling.size()), static_cast<ssize_t>(filling.size()));
-        return filling;
     }
 
     int to_pipe[2], from_pipe[2];
@@ -101,15 +91,13 @@ struct Connection {
     bool started = false;
 };
 
-struct RunningConnection : Connection {
-    RunningConnection() { Start(); }
-};
-
-TEST(UnixPipe, AFrameSplitAnywhereArrivesOnceAndOneCutOffDoesNot) {
+TEST(UnixPipe, AFrameSplitAndInterruptedAnywhereArrivesOnceAndOneCutOffDoesNot) {
     std::string const bytes = Frame("") + Frame("a") + Frame("z\xC3\xBCrich\n"), last = Frame("last");
     for (std::size_t cut = 0; cut <= bytes.size(); ++cut) {
-        RunningConnection client;
+        Connection client;
+        client.Start();
         client.Deliver(bytes.substr(0, cut));
+        InterruptOtherThreads(2);
         client.Deliver(bytes.substr(cut));
         EXPECT_THAT(client.Received(3), ElementsAre("", "a", "z\xC3\xBCrich\n")) << cut;
         client.Deliver(last.substr(0, cut % last.size()));
@@ -125,7 +113,8 @@ TEST(UnixPipe, AMessageIsTwoWriteCallsAndAnEmptyOneCloses) {
     client.Start();
     std::string const page(4096, 'p');
     for (std::string const& text : {std::string("first"), page, std::string(), page}) client.Queue(text);
-    for (auto const& expected : {Header("first"), std::string("first"), Header(page), page, std::string()})
+    for (auto const& expected :
+         {Frame("first").substr(0, 4), std::string("first"), Frame(page).substr(0, 4), page, std::string()})
         EXPECT_EQ(client.ReadOnce(), expected);
     EXPECT_TRUE(client.IsKilled());
     EXPECT_THROW(client.unix_pipe->WriteMessageToPipe(UIMessage("none")), UnixPipeWriteMessageError);
@@ -135,32 +124,21 @@ TEST(UnixPipe, AMessageIsTwoWriteCallsAndAnEmptyOneCloses) {
 TEST(UnixPipe, AWriteThatIsNotTakenWholeIsFatalAndNotContinued) {
     for (std::size_t room : {0u, 1u, 4u, 2000u, 4096u}) {
         Connection client;
+        std::string filling(static_cast<std::size_t>(fcntl(client.from_pipe[1], F_SETPIPE_SZ, 4096)) - room, '.');
+        EXPECT_EQ(write(client.from_pipe[1], filling.data(), filling.size()), static_cast<ssize_t>(filling.size()));
         fcntl(client.from_pipe[1], F_SETFL, O_NONBLOCK);
-        std::string const expected = client.FillOutput(room) + (room < 4 ? "" : Header(big));
         client.Start();
         client.Queue(big);
         EXPECT_TRUE(client.IsKilled());
-        std::string const sent = client.Sent();
+        std::string const sent = client.Sent(), expected = filling + (room < 4 ? "" : Frame(big).substr(0, 4));
         EXPECT_TRUE(sent.starts_with(expected)) << room;
         EXPECT_EQ(sent.size() > expected.size(), room > 4) << "some of the text is taken where there is room";
     }
 }
 
-TEST(UnixPipe, InterruptedCallsAreResumed) {
-    RunningConnection client;
-    std::string const filling = client.FillOutput(0);
-    client.Queue("out");
-    client.Deliver(Frame("in").substr(0, 5));
-    EXPECT_TRUE(Eventually([&] { return client.outbound.IsEmpty(); }));
-    InterruptOtherThreads(500);
-    client.Deliver("n");
-    EXPECT_THAT(client.Received(1), ElementsAre("in"));
-    EXPECT_EQ(client.Sent(filling.size() + 7), filling + Frame("out"));
-    EXPECT_FALSE(client.unix_pipe->Killed());
-}
-
 TEST(UnixPipe, KillDoesNotWaitForABlockedWriterAndKeepsItsNumber) {
-    RunningConnection client;
+    Connection client;
+    client.Start();
     client.Queue(big);
     client.Queue("never");
     EXPECT_TRUE(Eventually([&] { return BytesWaiting(client.from_pipe[0]) > 4; })) << "the writer is in the text";
@@ -180,13 +158,14 @@ TEST(UnixPipe, AKillBeforeTheStartEndsBothThreads) {
     EXPECT_TRUE(Eventually([&] { return ended_threads == 2; })) << "with the client still connected";
 }
 
-TEST(UnixPipe, APipeWithoutItsThreadsIsKilled) {
+TEST(UnixPipe, APipeWithoutItsThreadsIsKilledAndSaysSoOnStandardError) {
     Connection client;
     SetDefaultStackSize(more_stack_than_there_is);
+    testing::internal::CaptureStderr();
     EXPECT_FALSE(client.unix_pipe->Start(client.to_pipe[0], client.from_pipe[1]));
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "Unable to pthread_create (" + std::to_string(EAGAIN) + ")\n");
     SetDefaultStackSize(ordinary_stack);
     EXPECT_TRUE(client.unix_pipe->Killed());
-    EXPECT_EQ(client.unix_pipe->GetRefCount(), 1u);
     EXPECT_EQ(client.Sent(), "");
 }
 
