@@ -22,19 +22,15 @@ ActionRequest Action(std::int64_t i) {
 }
 
 // One refresh as a tick does it: every text converted, the rows replaced, everything laid out and sent to the server. The
-// last action comes and goes, since equal rows are not replaced.
+// first action becomes the last, since equal rows are not replaced.
 void RefreshOfTheActionRequestDialog(benchmark::State& state) {
     OpenDialogDisplay();
     actions.Clear();
-    for (std::int64_t i = 1; i < state.range(0); ++i) actions.Append(Action(i));
-    auto const others = actions.size();
-    auto const last = Action(state.range(0));
+    for (std::int64_t i = 1; i <= state.range(0); ++i) actions.Append(Action(i));
     ShowActionRequestDialog(false, TimeInterval::Minutes(15), true);
     for (auto _ : state) {
-        if (actions.size() == others)
-            actions.Append(last);
-        else
-            actions.Erase(others);
+        actions.Append(ActionRequest(actions[0]));
+        actions.Erase(0);
         UpdateActionRequestDialog();
         RefreshActionRequestDialog();
         XFlush(display);
@@ -43,10 +39,7 @@ void RefreshOfTheActionRequestDialog(benchmark::State& state) {
     state.SetComplexityN(state.range(0));
 }
 BENCHMARK(RefreshOfTheActionRequestDialog)
-    ->Arg(125)
-    ->Arg(250)
-    ->Arg(500)
-    ->Arg(1000)
+    ->ArgsProduct({{125, 250, 500, 1000}})
     ->Unit(benchmark::kMillisecond)
     ->Complexity(benchmark::oN);
 

@@ -1,4 +1,4 @@
-// How long the text of numbers, durations and times takes to write and to read back. One item is one round trip.
+// How long the text of numbers, durations and times takes to write and to read back. One iteration is one round trip.
 #include <benchmark/benchmark.h>
 
 #include <random>
@@ -23,42 +23,30 @@ std::vector<long long> Values() {
 template <class RoundTrip>
 void Measure(benchmark::State& state, RoundTrip roundTrip) {
     auto const values = Values();
-    for (auto _ : state) {
+    while (state.KeepRunningBatch(static_cast<std::int64_t>(values.size()))) {
         for (auto const value : values)
             if (roundTrip(value) != value) return state.SkipWithError("a value came back as another");
     }
-    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(values.size()));
 }
 
-void Numeral(benchmark::State& state) {
-    Measure(state,
-            [](long long value) { return ReadAsciiSignedDecimalNumeral64(MakeAsciiSignedDecimalNumeral64(value, 1)); });
-}
-BENCHMARK(Numeral);
+BENCHMARK_CAPTURE(Measure, Numeral, [](long long value) {
+    return ReadAsciiSignedDecimalNumeral64(MakeAsciiSignedDecimalNumeral64(value, 1));
+});
 
-void HexNumeral(benchmark::State& state) {
-    Measure(state, [](long long value) {
-        return static_cast<long long>(
-            ReadAsciiHexNumeral64(MakeAsciiHexNumeral64(static_cast<unsigned long long>(value), 1)));
-    });
-}
-BENCHMARK(HexNumeral);
+BENCHMARK_CAPTURE(Measure, HexNumeral, [](long long value) {
+    auto const numeral = MakeAsciiHexNumeral64(static_cast<unsigned long long>(value), 1);
+    return static_cast<long long>(ReadAsciiHexNumeral64(numeral));
+});
 
-void Duration(benchmark::State& state) {
-    Measure(state, [](long long value) {
-        return XMLDurationToTimeInterval(TimeIntervalToXMLDuration(TimeInterval(value))).Microseconds();
-    });
-}
-BENCHMARK(Duration);
+BENCHMARK_CAPTURE(Measure, Duration, [](long long value) {
+    return XMLDurationToTimeInterval(TimeIntervalToXMLDuration(TimeInterval(value))).Microseconds();
+});
 
 // Times have whole seconds: the value is counted in them.
-void Time(benchmark::State& state) {
-    Measure(state, [](long long value) {
-        auto const seconds = value % 100'000'000'000;
-        auto const text = TimeToText(TimeObject(Instant(seconds * TimeInterval::kSecond), TimeZone(3'600)));
-        return value - seconds + Instant(TextToTime(text)).Microseconds() / TimeInterval::kSecond;
-    });
-}
-BENCHMARK(Time);
+BENCHMARK_CAPTURE(Measure, Time, [](long long value) {
+    auto const seconds = value % 100'000'000'000;
+    auto const text = TimeToText(TimeObject(Instant(seconds * TimeInterval::kSecond), TimeZone(3'600)));
+    return value - seconds + Instant(TextToTime(text)).Microseconds() / TimeInterval::kSecond;
+});
 
 }  // namespace
