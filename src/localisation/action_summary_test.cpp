@@ -90,40 +90,26 @@ TEST(ActionRequestStoreTest, UpdatesOverwriteAndRaiseNearForcedDeadlines) {
     store.UpdateActions({});
     EXPECT_EQ(store.GetAction(1).title.AsStringView(), "later");
     EXPECT_GT(*store.GetAction(1).Deadline(), Instant::Now());
-    store.RemoveAction(3);
-    EXPECT_THROW(store.RemoveAction(3), NoSuchActionRequestID);
 }
 
-std::string Phrase(long long remaining, bool exact, bool relative) {
-    return std::string(FormattedDeadline(TimeInterval(remaining), exact, relative).AsStringView());
+// What is said at each of the moments, one a line.
+std::string Phrases(std::initializer_list<long long> moments, bool exact, bool relative) {
+    std::string phrases;
+    for (long long remaining : moments)
+        phrases.append(FormattedDeadline(TimeInterval(remaining), exact, relative).AsStringView()).append("\n");
+    return phrases;
 }
 
 TEST(DeadlineTextTest, EveryPhraseHasItsRange) {
     constexpr long long kMinute = TimeInterval::kMinute, kHour = TimeInterval::kHour, kSecond = TimeInterval::kSecond;
-    std::pair<long long, std::string> const cases[] = {{0, "0 seconds"},
-                                                       {kSecond, "1 second"},
-                                                       {kMinute, "1 minute, 0 seconds"},
-                                                       {61 * kSecond, "1 minute, 1 second"},
-                                                       {121 * kSecond, "2 minutes, 1 second"},
-                                                       {5 * kMinute, "5 minutes, 0 seconds"},
-                                                       {5 * kMinute + 1, "5 minutes"},
-                                                       {kHour, "60 minutes"},
-                                                       {90 * kMinute, "1 hour"},
-                                                       {90 * kMinute + 1, "2 hours"},
-                                                       {24 * kHour, "24 hours"},
-                                                       {36 * kHour, "1 day"},
-                                                       {36 * kHour + 1, "2 days"}};
-    for (auto const& [remaining, exact] : cases) {
-        bool const now = remaining <= 5 * kMinute;
-        EXPECT_EQ(Phrase(remaining, false, false), now ? "Now" : exact);
-        EXPECT_EQ(Phrase(remaining, false, true), now ? "Now" : exact + " from now");
-        EXPECT_EQ(Phrase(remaining, true, false), exact);
-        EXPECT_EQ(Phrase(remaining, true, true), exact + " from now");
-    }
-    EXPECT_EQ(Phrase(-1, false, false), "Overdue");
-    EXPECT_EQ(Phrase(-1, true, false), "0 seconds");
-    EXPECT_EQ(Phrase(-1, false, true), "Overdue");
-    EXPECT_EQ(Phrase(-1, true, true), "Running...");
+    EXPECT_EQ(Phrases({-1, 0, kSecond, kMinute, 61 * kSecond, 121 * kSecond, 5 * kMinute}, true, false),
+              "0 seconds\n0 seconds\n1 second\n1 minute, 0 seconds\n1 minute, 1 second\n2 minutes, 1 second\n"
+              "5 minutes, 0 seconds\n");
+    EXPECT_EQ(Phrases({5 * kMinute + 1, kHour, 90 * kMinute, 90 * kMinute + 1, 24 * kHour, 36 * kHour, 36 * kHour + 1},
+                      true, false),
+              "5 minutes\n60 minutes\n1 hour\n2 hours\n24 hours\n1 day\n2 days\n");
+    EXPECT_EQ(Phrases({-1, 0, 5 * kMinute, 5 * kMinute + 1}, false, false), "Overdue\nNow\nNow\n5 minutes\n");
+    EXPECT_EQ(Phrases({-1, 0, 48 * kHour}, true, true), "Running...\n0 seconds from now\n2 days from now\n");
 }
 
 }  // namespace

@@ -1,9 +1,6 @@
 #include "localisation/localized_strings.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <set>
 
 #include "foundation/time/scoped_local_zone.h"
 #include "foundation/time/time_object.h"
@@ -26,22 +23,15 @@ struct LocalizedStringsTest : testing::Test {
 
 TEST_F(LocalizedStringsTest, WithoutTranslationTheTextsAreEnglish) {
     EXPECT_STREQ(LocalizedStrings::MenuCut().c_str(), "Cu&t\tCtrl-X");
-    EXPECT_THAT(LocalizedStrings::AboutVersion().c_str(),
-                testing::MatchesRegex("Corvane Support Center version [0-9]+\\.[0-9]+\\.[0-9]+\\.[0-9]+"));
-    EXPECT_EQ(View(LocalizedStrings::RestartNow()), "Restart Now");
-    EXPECT_STREQ(LocalizedStrings::TrayTip(0).c_str(), "Click to open Corvane Support Center");
     EXPECT_STREQ(LocalizedStrings::TrayTip(1).c_str(), "You have 1 pending action.");
     EXPECT_STREQ(LocalizedStrings::TrayTip(4294967295u).c_str(), "You have 4294967295 pending actions.");
-    EXPECT_EQ(View(LocalizedStrings::AnnounceOffers(0)), "You Have 0 New Offers");
     EXPECT_EQ(View(LocalizedStrings::AnnounceOffers(1)), "You Have 1 New Offer");
-    EXPECT_THAT(LocalizedStrings::AboutCopyright().c_str(), testing::MatchesRegex("[^{}\n]*20[0-9][0-9][^{}\n]*"));
+    EXPECT_EQ(View(UnixPlatform::FormattedLocalTime(At({23, 59, 59}))), "Sun, 05 Jan 2014 23:59:59");
 }
 
 TEST_F(LocalizedStringsTest, ATranslationChangesItsOwnEntryOnly) {
     Translate(
-        "OK\tJa\n"
-        "You Have {number} New Offers\t{count}\n"
-        "Sun\tSo\nSunday\tSonntag\n???\tkein Tag\nJan\tJaen\n{date} {time}\t{time} am {date}\n"
+        "OK\tJa\nYou Have {number} New Offers\t{count}\nSun\tSo\n???\tkein Tag\n{date} {time}\t{time} am {date}\n"
         "Your administrator has disabled this feature between {start} and {end}.\tbis {end} ab {start}");
     EXPECT_STREQ(LocalizedStrings::OK().c_str(), "Ja");
     EXPECT_STREQ(LocalizedStrings::Cancel().c_str(), "Cancel");
@@ -49,26 +39,8 @@ TEST_F(LocalizedStringsTest, ATranslationChangesItsOwnEntryOnly) {
                  "bis 04:05:06 ab 01:02:03");
     EXPECT_THROW(LocalizedStrings::AnnounceOffers(2), UndefinedFormatVariable);
     EXPECT_EQ(View(UnixPlatform::FormattedShortDayOfWeek(DayOfWeek::Sunday)), "So");
-    EXPECT_EQ(View(UnixPlatform::FormattedLongDayOfWeek(DayOfWeek::Sunday)), "Sonntag");
-    EXPECT_EQ(View(UnixPlatform::FormattedShortDayOfWeek(DayOfWeek(7))), "kein Tag");
+    EXPECT_EQ(View(UnixPlatform::FormattedLongDayOfWeek(DayOfWeek(7))), "kein Tag");
     EXPECT_EQ(View(UnixPlatform::FormattedLocalTime(At({7, 5, 9}))), "07:05:09 am Sun, 05 Jan 2014");
-}
-
-TEST_F(LocalizedStringsTest, KeysListsEveryTextOnce) {
-    auto keys = LocalizedStrings::Keys();
-    std::set<Stringy> distinct(keys.begin(), keys.end());
-    EXPECT_EQ(distinct.size(), keys.size());
-    for (auto key : {"&Help", "Offers", "You Have {number} New Offers"}) EXPECT_TRUE(distinct.contains(key)) << key;
-}
-
-TEST_F(LocalizedStringsTest, TimesDatesAndNumbersHaveOneForm) {
-    namespace Platform = UnixPlatform;
-    EXPECT_EQ(View(Platform::FormattedDateRecord({255, Month(77), 4294967295u})).substr(4), " 255 ??? 4294967295");
-    EXPECT_EQ(View(Platform::FormattedLocalTime(At({23, 59, 59}))), "Sun, 05 Jan 2014 23:59:59");
-    EXPECT_EQ(View(Platform::FormattedNumber(~0ull)), "18446744073709551615");
-    EXPECT_EQ(View(Platform::FormattedLongDayOfWeek(DayOfWeek::Wednesday)), "Wednesday");
-    EXPECT_EQ(View(Platform::FormattedShortDayOfWeek(DayOfWeek::Saturday)), "Sat");
-    for (int day : {7, 255}) EXPECT_EQ(View(Platform::FormattedLongDayOfWeek(DayOfWeek(day))), "???");
 }
 
 }  // namespace
