@@ -8,28 +8,6 @@ XMLElement Element(char const* name) {
     return XMLElement(name, XMLAttributes());
 }
 
-TEST(XMLElement, FindsTheFirstChildOfAName) {
-    auto parent = Element("p");
-    for (auto text : {"one", "two"}) parent.AddChildElement(Element("c")).AppendCharacters(text);
-    EXPECT_EQ(parent.GetChildElement("c").GetValue(), UStringRef<UTF8>("one"));
-    EXPECT_THROW(parent.GetChildElement("C"), NoSuchChildElement);
-    EXPECT_FALSE(parent.FindChildElement("d"));
-}
-
-TEST(XMLElement, KeepsAttributesInTheOrderOfTheirBytes) {
-    XMLAttributes attributes;
-    for (auto name : {"b", "", "\xC3", "aa", "a", "b"}) attributes.Add(name, attributes.Find(name) ? "again" : name);
-    XMLElement element("e", attributes);
-    std::string names;
-    for (auto [name, value] : element.Attributes()) {
-        names += std::string(name.AsStringView()) + ",";
-        EXPECT_EQ(value, name);
-        EXPECT_EQ(element.GetAttribute(name), value);
-    }
-    EXPECT_EQ(names, ",a,aa,b,\xC3,");
-    for (auto absent : {"A", "ab", "c", "\xC4"}) EXPECT_THROW(element.GetAttribute(absent), NoSuchAttribute) << absent;
-}
-
 TEST(XMLElement, CopiesTheWholeTreeEvenIntoItself) {
     auto parent = Element("p");
     parent.AddChildElement(Element("c")).AddChildElement(Element("d"));
