@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "foundation/text/shared_ustring.h"
-#include "foundation/text/ustring_builder.h"
 
 namespace {
 
@@ -18,20 +17,6 @@ TEST(AutoUString, OwnsATerminatedCopyAndMovesAway) {
     AutoUString<UTF8> moved(std::move(text));
     EXPECT_EQ(moved.AsStringView(), "abc");
     EXPECT_TRUE(text.empty() && text.begin() == nullptr);
-}
-
-TEST(UStringBuilder, GrowsToAtLeastTwiceAndKeepsItsContent) {
-    UStringBuilder<UTF8> builder;
-    Stringy expected;
-    auto moves = 0;
-    for (int round = 0; round < 100000; ++round) {
-        auto before = builder.Ref().begin();
-        builder.Append("abc");
-        expected += "abc";
-        moves += builder.Ref().begin() != before;
-    }
-    EXPECT_LE(moves, 18);
-    EXPECT_EQ(builder.MakeString().AsStringView(), expected);
 }
 
 TEST(SharedUString, CopiesStandOverOneBufferUntilTheLastGoes) {
