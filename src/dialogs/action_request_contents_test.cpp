@@ -30,6 +30,13 @@ TEST(ActionRequestContentsTest, AForcedDeadlineStandsStillAtFiveMinutesWithoutAS
                  "At least one of these actions will run automatically in 5 minutes, 0 seconds.");
 }
 
+TEST(ActionRequestContentsTest, ASelectedActionThatIsGoneThrows) {
+    PendingActions list;
+    list.Append({});
+    unsigned long long const gone = 9;
+    EXPECT_THROW(MakeActionRequestContents(list, &gone, true), NoSelectedAction);
+}
+
 TEST(SnoozeChoicesTest, TheProposedRowIsTheClosest) {
     auto const with = MakeSnoozeChoices(true), without = MakeSnoozeChoices(false);
     for (auto [seconds, row] : {std::pair(0LL, 0), {450LL, 1}, {451LL, 2}, {90LL * 60, 6}, {INT64_MAX, 16}})
