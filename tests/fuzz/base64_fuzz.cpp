@@ -8,10 +8,6 @@ void Fuzz(std::string_view input) {
     Require(DecodeBase64(EncodeBase64(decoded)) == decoded);
     Base64Decoder decoder;
     Stringy pieces;
-    for (auto rest = input; !rest.empty(); decoder.Decode("", pieces)) {
-        auto const size = std::min<std::size_t>(rest.size(), 1 + (rest[0] & 15));
-        decoder.Decode(rest.substr(0, size), pieces);
-        rest.remove_prefix(size);
-    }
+    InPieces(input, input, [&](auto piece) { decoder.Decode(piece, pieces); });
     Require(pieces == decoded);
 }

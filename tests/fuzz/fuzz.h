@@ -1,7 +1,8 @@
 #pragma once
 
-#include <cstddef>
+#include <algorithm>
 #include <cstdint>
+#include <cstdlib>
 #include <string>
 #include <string_view>
 
@@ -13,8 +14,16 @@
 // Takes any bytes. Whatever ends the process is a finding, and so is an exception that comes out.
 void Fuzz(std::string_view input);
 
+// The entry that libFuzzer calls.
+extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
+    Fuzz({reinterpret_cast<char const*>(data), size});
+    return 0;
+}
+
 // A promise of the code under test. Ends the process when it is not kept.
-void Require(bool kept);
+inline void Require(bool kept) {
+    if (!kept) std::abort();
+}
 
 // Whether `body` ends without one of the program's own exceptions. Any other passes through.
 template <class Body>
@@ -25,9 +34,7 @@ bool Succeeds(Body body) try {
     return false;
 }
 
-inline UStringRef<UTF8> Text(std::string_view bytes) {
-    return UStringRef<UTF8>(bytes);
-}
+using Text = UStringRef<UTF8>;
 
 // Takes an integer from the front of the input, as many of its bytes as there are.
 template <class T>
@@ -41,4 +48,18 @@ T TakeInteger(std::string_view& input) {
 }
 
 // Takes what stands before the next `end` off the front of the input, and the `end` with it.
-std::string_view TakeUntil(std::string_view& input, char end);
+inline std::string_view TakeUntil(std::string_view& input, char end) {
+    auto const taken = input.substr(0, input.find(end));
+    input.remove_prefix(std::min(taken.size() + 1, input.size()));
+    return taken;
+}
+
+// Hands the text over in pieces, whose sizes less one are the bytes of `sizes`.
+template <class T, class Take>
+void InPieces(T text, std::string_view sizes, Take take) {
+    while (!text.empty()) {
+        auto const end = text.begin() + std::min<std::size_t>(text.size(), 1 + TakeInteger<unsigned char>(sizes));
+        take(T(text.begin(), end));
+        text = T(end, text.end());
+    }
+}

@@ -1,7 +1,6 @@
 // What the C library takes for UTF-8 decodes to the same here, and goes back to the same bytes.
 #include "foundation/text/local_encoding.h"
 
-#include <algorithm>
 #include <clocale>
 
 #include "foundation/text/transcode.h"
@@ -14,6 +13,6 @@ void Fuzz(std::string_view input) {
     std::string_view const text = input.substr(0, input.find('\0'));
     UStringRef<Local8Bit> const local(text.data(), text.data() + text.size());
     if (!Succeeds([&] { native = UnixPlatform::ToNativeUnicode(local); })) return;
-    if (std::any_of(native.begin(), native.end(), [](UTF32::Unit unit) { return unit > 0x10FFFF; })) return;
+    if (std::ranges::any_of(native, [](UTF32::Unit unit) { return unit > 0x10FFFF; })) return;
     Require(Transcode<UTF32>(Text(text)) == native && UnixPlatform::FromNativeUnicode(native).Ref() == local);
 }
