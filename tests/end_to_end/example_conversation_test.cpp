@@ -1,12 +1,9 @@
-#include <set>
-
 #include "tests/support/program_test.h"
 
 class ExampleConversation : public ProgramTest {};
 
 TEST_F(ExampleConversation, RunsAsDocumented) {
-    std::set<std::filesystem::path> steps;
-    for (auto const& entry : std::filesystem::directory_iterator(EXAMPLE_CONVERSATION)) steps.insert(entry.path());
+    auto const steps = FilesIn(EXAMPLE_CONVERSATION);
     ASSERT_FALSE(steps.empty());
     Prepare();
     for (auto const& step : steps) {

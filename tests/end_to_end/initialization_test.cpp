@@ -1,26 +1,16 @@
 #include "tests/support/program_test.h"
 
 #include <fstream>
-#include <set>
 
 #include "tools/client_messages.h"
 
 namespace {
-
-using Names = std::set<std::string>;
 
 class Initialization : public ProgramTest {
   protected:
     static void Write(std::filesystem::path const& file, std::string const& text) {
         std::filesystem::create_directories(file.parent_path());
         std::ofstream(file) << text;
-    }
-    Names NamesInBase() const {
-        Names names;
-        for (auto const& entry : std::filesystem::directory_iterator(BaseDirectory())) {
-            names.insert(entry.path().filename().string());
-        }
-        return names;
     }
 };
 
@@ -30,7 +20,6 @@ TEST_F(Initialization, EmptiesTheBaseDirectoryAndFillsIt) {
     Write(Directory() / "outside" / "kept.txt", "kept");
     Write(BaseDirectory() / "old" / "deep" / "old.txt", "old");
     std::filesystem::create_directory_symlink(Directory() / "outside", BaseDirectory() / "link");
-    Start();
     Play(R"(
         support-file page.html "<p>first</p>"
         support-file page.html "<p>second</p>"
@@ -44,13 +33,12 @@ TEST_F(Initialization, EmptiesTheBaseDirectoryAndFillsIt) {
     // It happens once.
     Program().SendFrame(Overdue(1));
     Play("expect ActionTaken ID=1");
-    EXPECT_EQ(NamesInBase(), (Names{"page.html", "empty.txt"}));
+    EXPECT_EQ(FilesIn(BaseDirectory()), (std::set{BaseDirectory() / "empty.txt", BaseDirectory() / "page.html"}));
     EXPECT_EQ(Read(BaseDirectory() / "page.html"), "<p>second</p>");
     EXPECT_EQ(Read(Directory() / "outside" / "kept.txt"), "kept");
 }
 
 TEST_F(Initialization, RequestsBeforeItAndBesideItAreShown) {
-    Start();
     Play("request id=1 title=Before");
     auto const base = BaseDirectory() / "made" / "with its parents";
     Program().SendFrame(Document("initialize base=\"" + base.string() + "\"\nrequest id=2 title=Dropped"));
@@ -65,21 +53,18 @@ TEST_F(Initialization, RequestsBeforeItAndBesideItAreShown) {
     EXPECT_TRUE(std::filesystem::is_directory(base));
 }
 
-struct FailingCase {
-    char const* name;
-    std::string elements;  // "~" stands for the test's directory
-};
+// A name, and the elements: "~" stands in them for the test's directory.
+using Failure = std::pair<char const*, std::string>;
 
-class FailingInitialization : public Initialization, public ::testing::WithParamInterface<FailingCase> {};
+class FailingInitialization : public Initialization, public ::testing::WithParamInterface<Failure> {};
 
 // Whatever is wrong with it, it touches nothing that it need not, and the next one counts.
 TEST_P(FailingInitialization, IsFollowedByOneThatSucceeds) {
     Write(Directory() / "file", "in the way");
     Write(Directory() / "full" / "old.txt", "old");
-    Start();
-    auto const elements = Replaced(GetParam().elements, "~", Directory().string());
-    Program().SendFrame(tools::Document(tools::Element("InitializationInfo", elements)));
     Play("support-file a.txt a");
+    auto const elements = Replaced(GetParam().second, "~", Directory().string());
+    Program().SendFrame(tools::Document(tools::Element("InitializationInfo", elements)));
     std::string initialization = Document("initialize");
     // What follows in the same batch is lost, and no answer tells the batches apart.
     EXPECT_TRUE(tools::WaitUntil(std::chrono::seconds(10), [&] {
@@ -92,20 +77,19 @@ TEST_P(FailingInitialization, IsFollowedByOneThatSucceeds) {
 }
 
 std::string const in_full = "<BaseDirectory>~/full</BaseDirectory>";
+std::string const one_then_none = tools::SupportFile("a", "a") + tools::SupportFile(std::string(256, 'b'), "b");
 
 INSTANTIATE_TEST_SUITE_P(
     All, FailingInitialization,
-    ::testing::Values(FailingCase{"NoBase", ""}, FailingCase{"EmptyBase", "<BaseDirectory></BaseDirectory>"},
-                      FailingCase{"FileInTheWay", "<BaseDirectory>~/file/below</BaseDirectory>"},
-                      FailingCase{"RelativeBase", "<BaseDirectory>full</BaseDirectory>"},
-                      FailingCase{"HalfDone", "<BaseDirectory>~/half</BaseDirectory>" + tools::SupportFile("a", "a") +
-                                                  tools::SupportFile(std::string(256, 'b'), "b")},
-                      FailingCase{"NameLeadsOut", in_full + tools::SupportFile("../file", "over it")},
-                      FailingCase{"NameIsParent", in_full + tools::SupportFile("..", "over it")},
-                      FailingCase{
-                          "NoDuration",
-                          in_full + "<InitialUISettings><RemindInterval>soon</RemindInterval></InitialUISettings>"}),
-    [](auto const& of) { return of.param.name; });
+    ::testing::Values(Failure("NoBase", ""), Failure("EmptyBase", "<BaseDirectory></BaseDirectory>"),
+                      Failure("RelativeBase", "<BaseDirectory>full</BaseDirectory>"),
+                      Failure("FileInTheWay", "<BaseDirectory>~/file/below</BaseDirectory>"),
+                      Failure("HalfDone", "<BaseDirectory>~/half</BaseDirectory>" + one_then_none),
+                      Failure("NameLeadsOut", in_full + tools::SupportFile("../file", "over it")),
+                      Failure("NameIsParent", in_full + tools::SupportFile("..", "over it")),
+                      Failure("NoDuration",
+                              in_full + tools::Element("InitialUISettings", "<RemindInterval>soon</RemindInterval>"))),
+    [](auto const& of) { return of.param.first; });
 
 struct LocaleCase {
     char const* name;

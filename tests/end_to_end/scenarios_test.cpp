@@ -1,31 +1,22 @@
-#include <algorithm>
-#include <set>
-
 #include "tests/support/program_test.h"
 
-namespace {
-
-std::set<std::string> AllScenarios() {
-    std::set<std::string> names;
-    for (auto const& entry : std::filesystem::directory_iterator(SCENARIOS)) {
-        if (entry.path().extension() == ".scenario") names.insert(entry.path().stem().string());
+class Scenario : public ProgramTest, public ::testing::WithParamInterface<std::filesystem::path> {
+  public:
+    static std::set<std::filesystem::path> All() {
+        auto all = FilesIn(SCENARIOS);
+        std::erase_if(all, [](auto const& file) { return file.extension() != ".scenario"; });
+        return all;
     }
-    return names;
-}
-
-class Scenario : public ProgramTest, public ::testing::WithParamInterface<std::string> {};
-
-}  // namespace
+    static std::string Name(::testing::TestParamInfo<std::filesystem::path> const& of) {
+        return Replaced(of.param.stem(), "-", "_");
+    }
+};
 
 // The stories of the demonstration, of which each says what must come of it.
 TEST_P(Scenario, GoesAsItIsTold) {
     Display().StartWindowManager();
     Prepare();
-    Play(Read(std::filesystem::path(SCENARIOS) / (GetParam() + ".scenario")));
+    Play(Read(GetParam()));
 }
 
-INSTANTIATE_TEST_SUITE_P(All, Scenario, ::testing::ValuesIn(AllScenarios()), [](auto const& of) {
-    std::string name = of.param;
-    std::replace(name.begin(), name.end(), '-', '_');
-    return name;
-});
+INSTANTIATE_TEST_SUITE_P(All, Scenario, ::testing::ValuesIn(Scenario::All()), Scenario::Name);

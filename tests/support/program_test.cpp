@@ -16,12 +16,11 @@ ProgramTest::~ProgramTest() {
 }
 
 void ProgramTest::Prepare(Environment const& changes, std::vector<std::string> const& arguments) {
+    Environment environment = changes;
+    environment.insert({{"DISPLAY", display_.Name()}, {"LC_ALL", "C"}, {"LANGUAGE", std::nullopt}});
     tools::PlayerOptions options;
-    options.launch.program = PROGRAM_UNDER_TEST;
-    options.launch.environment = {{"DISPLAY", display_.Name()}, {"LC_ALL", "C"}, {"LANGUAGE", std::nullopt}};
-    for (auto const& [name, value] : changes) options.launch.environment[name] = value;
-    options.launch.arguments = arguments;
-    options.launch.fixed_addresses = true;
+    options.launch = {
+        .program = PROGRAM_UNDER_TEST, .arguments = arguments, .environment = environment, .fixed_addresses = true};
     options.directory = SCENARIOS;
     options.output = Directory();
 #ifdef __SANITIZE_ADDRESS__
@@ -38,8 +37,12 @@ void ProgramTest::Start(Environment const& changes, std::vector<std::string> con
     Play("expect ReadyForData");
 }
 
+void ProgramTest::Play(std::string_view lines) {
+    if (!player_) Start();
+    player_->Play(lines);
+}
+
 void ProgramTest::TearDown() {
-    if (!player_) return;
     Program().CloseSending();
     EXPECT_EQ(Program().WaitForEnd(std::chrono::seconds(10)), ending_);
     EXPECT_EQ(Program().ReceiveFrame(std::chrono::milliseconds(0)).value_or("nothing"), "nothing");
@@ -54,6 +57,10 @@ std::string ProgramTest::Repeated(std::string_view unit, size_t size) {
 std::string ProgramTest::Replaced(std::string text, std::string_view part, std::string_view by) {
     for (size_t at = 0; (at = text.find(part, at)) != text.npos; at += by.size()) text.replace(at, part.size(), by);
     return text;
+}
+
+std::set<std::filesystem::path> ProgramTest::FilesIn(std::filesystem::path const& directory) {
+    return {std::filesystem::directory_iterator(directory), std::filesystem::directory_iterator()};
 }
 
 std::string ProgramTest::Read(std::filesystem::path const& file) {

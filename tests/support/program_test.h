@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -23,11 +24,12 @@ class ProgramTest : public ::testing::Test {
 
     using Environment = std::map<std::string, std::optional<std::string>>;
 
+    // Plays lines; starts the program first, with nothing changed, unless that is done or prepared.
+    void Play(std::string_view lines);
     // Starts the program with changes to its environment, and takes its greeting.
     void Start(Environment const& changes = {}, std::vector<std::string> const& arguments = {});
     // Only gets everything ready for the lines of a whole scenario, which start it.
     void Prepare(Environment const& changes = {}, std::vector<std::string> const& arguments = {});
-    void Play(std::string_view lines) { player_->Play(lines); }
     void TearDown() override;
 
     tools::ClientProcess& Program() { return player_->Program(); }
@@ -51,6 +53,8 @@ class ProgramTest : public ::testing::Test {
     static std::string Repeated(std::string_view unit, size_t size);
     // The text with `by` in place of each `part`.
     static std::string Replaced(std::string text, std::string_view part, std::string_view by);
+    // All that lies in a directory.
+    static std::set<std::filesystem::path> FilesIn(std::filesystem::path const& directory);
     // What a file holds; nothing for one that is not there.
     static std::string Read(std::filesystem::path const& file);
 
