@@ -94,12 +94,11 @@ class ContentsDeleter {
         char const* name = levels_.back().names.back().c_str();
         struct stat status;
         Check(fstatat(open_.Get(), name, &status, AT_SYMLINK_NOFOLLOW));
-        if (S_ISDIR(status.st_mode)) {
-            Enter(OpenIn(open_, name));
-        } else {
-            Check(unlinkat(open_.Get(), name, 0));
-            levels_.back().names.pop_back();
-        }
+        bool const directory = S_ISDIR(status.st_mode);
+        // An empty directory goes even if it may not be read.
+        if (directory && unlinkat(open_.Get(), name, AT_REMOVEDIR) == -1) return Enter(OpenIn(open_, name));
+        if (!directory) Check(unlinkat(open_.Get(), name, 0));
+        levels_.back().names.pop_back();
     }
 
     void LeaveAndDelete() {

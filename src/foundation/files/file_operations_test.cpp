@@ -57,6 +57,7 @@ TEST_F(FileOperationsTest, ATreeIsMadeWithWhatItLacksAndReplacesNothing) {
 
 TEST_F(FileOperationsTest, DeletingEmptiesTheDirectoryAndNothingElse) {
     CreateDirectoryTree(At("/base/sub/empty"));
+    fs::permissions(At("/base/sub/empty").SystemPath(), fs::perms::none);
     CreateDirectoryTree(At("/outside"));
     Write("/outside/file", "kept");
     Write("/base/sub/file", "x");
