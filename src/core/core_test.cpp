@@ -148,6 +148,19 @@ TEST_F(CoreTest, AnAnswerToAnotherQuestionDoesNotContinueTheTakeAll) {
     EXPECT_THAT(Replies(), ElementsAre(Taken(1)));
 }
 
+TEST_F(CoreTest, AnAnswerDoesNotCountForAnotherActionOfTheID) {
+    Receive(Request(1, kAsk));
+    Decide(UICommandType::Take, 1);
+    Receive(Removal(1, "Action") + Request(1, "<PreActionMessage>Other?</PreActionMessage>"));
+    Decide(UICommandType::ConfirmationAccepted, 1);
+    EXPECT_THAT(Replies(), IsEmpty()) << "it is asked about now";
+    Receive(Removal(1, "Action") + Request(1));
+    Decide(UICommandType::ConfirmationAccepted, 1);
+    EXPECT_THAT(Replies(), IsEmpty());
+    Decide(UICommandType::Take, 1);
+    EXPECT_THAT(Replies(), ElementsAre(Taken(1)));
+}
+
 TEST_F(CoreTest, NothingIsSnoozedOverAnEmptyListWhateverComesBeforeThatIsLookedAt) {
     Decide(UICommandType::Snooze, 0, 30);
     QueueCommand(UICommandType::Snooze, 0, 30, 0, true);

@@ -1,5 +1,7 @@
 #include "core/ui_commands.h"
 
+#include <optional>
+
 #include "core/process/client_writer.h"
 #include "core/process/process_state.h"
 #include "core/process/ui_command.h"
@@ -13,6 +15,9 @@ namespace {
 // question put was about the action of this ID.
 bool take_all_in_progress = false;
 unsigned long long take_all_asked = 0;
+
+// The action whose question was put last, as it was then.
+std::optional<ActionRequest>& question = *new std::optional<ActionRequest>;
 
 void SendActionTaken(ActionRequest const& action, bool cancel) {
     SendToClient(ClientWriter(), ActionTaken{.is_cancel = cancel, .is_offer = false, .id = action.id});
@@ -31,10 +36,23 @@ void TakeAllActions() {
     EnableActionRequestDialog();
 }
 
+// Puts the question of the first action of this ID, unless another one stands.
+void Ask(unsigned long long id) {
+    if (!IsConfirmationRequestDialogShown()) question = *actions.FindAction(id);
+    ShowConfirmationRequestDialog(id);
+}
+
 bool RequestConfirmationIfNeeded(ActionRequest const& action) {
     if (!action.pre_action_message) return false;
-    ShowConfirmationRequestDialog(action.id);
+    Ask(action.id);
     return true;
+}
+
+// Whether the answer to the question of this ID counts for this action: not when it says something else than the one that
+// the user was asked about, which the client has withdrawn meanwhile.
+bool AnswerIsFor(ActionRequest const& action) {
+    return !question || question->id != action.id ||
+           (question->title == action.title && question->pre_action_message == action.pre_action_message);
 }
 
 void WalkOnWithTakeAll() {
@@ -49,7 +67,9 @@ void WalkOnWithTakeAll() {
     TakeAllActions();
 }
 
+// A question that stands is taken back: each is put in its turn, or the answer to one would count for another.
 void TakeAll() {
+    HideConfirmationRequestDialog();
     actions.SetTakeAllCursor(0);
     WalkOnWithTakeAll();
 }
@@ -63,26 +83,39 @@ void TakeOne(unsigned long long id) {
     EnableActionRequestDialog();
 }
 
-void CompleteIfPending(unsigned long long id, bool cancel) {
+void CancelOne(unsigned long long id) {
     auto position = actions.Find(id);
-    if (position < actions.size()) CompleteAction(position, cancel);
+    if (position < actions.size()) CompleteAction(position, true);
     EnableActionRequestDialog();
 }
 
-// A confirmation counts for the action that it names. One that the take-all did not put stood on the screen before it,
-// where the take-all's own question could not be shown; that one is put again.
+// A confirmation counts for the action that it names. One that the take-all did not put was asked for beside it; the
+// take-all's own question, which could not be shown meanwhile, is put again.
 void AcceptDuringTakeAll(unsigned long long id) {
     if (id == take_all_asked) return WalkOnWithTakeAll();
-    if (auto position = actions.Find(id); position < actions.size()) CompleteAction(position, false);
+    auto position = actions.Find(id);
+    if (position < actions.size() && AnswerIsFor(actions[position])) CompleteAction(position, false);
     if (!actions.FindAction(take_all_asked)) return WalkOnWithTakeAll();
-    ShowConfirmationRequestDialog(take_all_asked);
+    Ask(take_all_asked);
+}
+
+// An action that has come in place of the one asked about is put to the user in its turn, or left to another decision.
+void AcceptOne(unsigned long long id) {
+    auto position = actions.Find(id);
+    if (position < actions.size()) {
+        if (AnswerIsFor(actions[position]))
+            CompleteAction(position, false);
+        else if (RequestConfirmationIfNeeded(actions[position]))
+            return;
+    }
+    EnableActionRequestDialog();
 }
 
 void AcceptConfirmation(unsigned long long id) {
     if (take_all_in_progress)
         AcceptDuringTakeAll(id);
     else
-        CompleteIfPending(id, false);
+        AcceptOne(id);
 }
 
 // Abandons the whole take-all, what was already confirmed included: that is meant.
@@ -116,7 +149,7 @@ void HandleCommand(UICommand const& command) {
         case UICommandType::DetailsClosed:
             return EnableActionRequestDialog();
         case UICommandType::Cancel:
-            return CompleteIfPending(command.ActionID(), true);
+            return CancelOne(command.ActionID());
         case UICommandType::Take:
             return TakeOne(command.ActionID());
         case UICommandType::Snooze:

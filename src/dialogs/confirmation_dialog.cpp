@@ -126,6 +126,10 @@ void ShowConfirmationRequestDialog(unsigned long long id) {
     UpdateConfirmationRequestDialog();
 }
 
+bool IsConfirmationRequestDialogShown() {
+    return shell != nullptr;
+}
+
 void UpdateConfirmationRequestDialog() {}
 
 void HideConfirmationRequestDialog() {

@@ -7,6 +7,8 @@
 // screen and its ID. An ID that is no longer pending shows empty texts, and its buttons answer all the same.
 void ShowConfirmationRequestDialog(unsigned long long id);
 
+bool IsConfirmationRequestDialogShown();
+
 // There is nothing to bring up to date: the texts of an action do not change.
 void UpdateConfirmationRequestDialog();
 

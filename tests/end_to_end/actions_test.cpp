@@ -22,6 +22,37 @@ TEST_F(Actions, NothingIsTakenOrCancelledWithoutBeingAllowed) {
     )");
 }
 
+// The end of a quiet period enables the list while a question stands, whose window leaves the buttons free here.
+TEST_F(Actions, TakeAllPutsEachQuestionItself) {
+    Start({}, {"-xrm", "*actionListLabel.height: 330"});
+    Play(R"(
+        initialize
+        request id=1 title=One confirm=one
+        request id=2 title=Two confirm=two
+        wait window ActionRequestDialog
+        click form.takeAllActions
+        wait window ConfirmationDialog
+        click form.ok
+        wait window ConfirmationDialog again
+        quiet end
+        wait window ActionRequestDialog
+        click form.takeAllActions
+    )");
+    // The second of these is answered in a tick that has seen the press.
+    for (int tick = 0; tick < 2; ++tick) {
+        Program().SendFrame(Overdue(3));
+        Play("expect ActionTaken ID=3");
+    }
+    Play(R"(
+        wait window ConfirmationDialog
+        wait widget form.actiontitle label=One
+        click form.ok
+        wait window ConfirmationDialog again
+        click form.cancel
+        wait window ConfirmationDialog gone
+    )");
+}
+
 TEST_F(Actions, FiveHundredScroll) {
     Play("initialize");
     std::string requests;
