@@ -72,10 +72,12 @@ Widget CreateLabel(Widget form, char const* name, AutoNullTerminated<char> const
                    {XtNinternational, true}});
 }
 
-// A wider window would stand with its buttons outside the display.
-void ClipToDisplay(Widget label, AutoNullTerminated<char> const& text) {
+// A wider window would stand with its buttons outside the display. An empty label without margins, as a user's resources
+// may have it, would have no width, which the X server refuses.
+void FitToDisplay(Widget label, AutoNullTerminated<char> const& text) {
     int const limit = DisplayWidthInPixels() - 4 * kMargin;
-    if (TextWidth(label, text.c_str()) > limit) Rewiden(label, limit);
+    if (WidthOf(label) == 0 || TextWidth(label, text.c_str()) > limit)
+        Rewiden(label, std::min(TextWidth(label, text.c_str()), limit));
 }
 
 Widget CreateButton(Widget form, char const* name, AutoNullTerminated<char> const& label, Widget above) {
@@ -103,7 +105,7 @@ void Build(unsigned long long id) {
     shell = CreateDialogShell("ConfirmationDialog", texts.window_title.c_str());
     Widget form = Create(shell, "form", formWidgetClass);
     Widget title = CreateLabel(form, "actiontitle", texts.action_title, nullptr);
-    ClipToDisplay(title, texts.action_title);
+    FitToDisplay(title, texts.action_title);
     Widget explanation = CreateLabel(form, "staticlabel", texts.explanation, title);
     minimum_text_width = std::max(minimum_text_width, WidthOf(explanation));
     Widget text = CreateReadOnlyText(form, "actionconfirmation", texts.confirmation.c_str(),

@@ -25,6 +25,19 @@ TEST_F(Resources, OfTheCommandLineTakeEffect) {
     EXPECT_EQ(Background(), 0x123456u);
 }
 
+TEST_F(Resources, ThatTakeAllWidthAwayCostNoAnswer) {
+    Start({}, {"-xrm", "*columnSpacing: 0", "-xrm", "*internalWidth: 0", "-xrm", "*List.list: none"});
+    Play(R"(
+        initialize
+        request id=1 title="" confirm="Sure?"
+        wait window ActionRequestDialog
+        click form.takeAllActions
+        wait window ConfirmationDialog
+        click form.ok
+        expect ActionTaken ID=1
+    )");
+}
+
 // The table of key sequences is a pipe that nobody writes to: who reads it waits for ever.
 TEST_F(Resources, NoneIsTakenByAnInputMethod) {
     auto const table = Directory() / "Compose";

@@ -16,6 +16,7 @@ class Argument {
     Argument(char const* name, int value) : name_(name), value_(value) {}
     Argument(char const* name, bool value) : name_(name), value_(value) {}
     Argument(char const* name, char const* value) : name_(name), value_(reinterpret_cast<long>(value)) {}
+    Argument(char const* name, char const* const* value) : name_(name), value_(reinterpret_cast<long>(value)) {}
     Argument(char const* name, Widget value) : name_(name), value_(reinterpret_cast<long>(value)) {}
     template <class E>
     requires std::is_enum_v<E> Argument(char const* name, E value) : name_(name), value_(static_cast<long>(value)) {}

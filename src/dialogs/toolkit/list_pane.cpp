@@ -13,10 +13,17 @@ void ListPane::Create(Widget parent, char const* name, int width, int height, Ar
     fitted_width_ = width;
     viewport_ = ::Create(parent, name, viewportWidgetClass,
                          {{XtNwidth, width}, {XtNheight, height}, {XtNallowVert, true}}, arguments);
-    list_ =
-        ::Create(viewport_, "", listWidgetClass,
-                 {{XtNdefaultColumns, 1}, {XtNforceColumns, true}, {XtNverticalList, true}, {XtNinternational, true}});
-    // A list that was never given an array shows its own name as a row.
+    // A list that is given no array shows its own name as a row, and divides by the width of its one column: no user's
+    // resources may take the array or the width from it.
+    static char const* const no_rows[] = {nullptr};
+    list_ = ::Create(viewport_, "", listWidgetClass,
+                     {{XtNdefaultColumns, 1},
+                      {XtNforceColumns, true},
+                      {XtNverticalList, true},
+                      {XtNinternational, true},
+                      {XtNlist, no_rows},
+                      {XtNnumberStrings, 0},
+                      {XtNcolumnSpacing, 6}});
     ShowRows({});
 }
 
