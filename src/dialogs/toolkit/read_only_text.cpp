@@ -27,14 +27,16 @@ Widget CreateReadOnlyText(Widget parent, char const* name, char const* text, Arg
 
 // As an edit with wide characters: of the string resource, and of an edit with others, the toolkit makes copies that it
 // never frees.
-void SetText(Widget readOnlyText, char const* text) {
+void SetText(Widget readOnlyText, char const* text, View view) {
     std::string_view const bytes(text);
     auto const wide = UnixPlatform::ToNativeUnicode({bytes.data(), bytes.data() + bytes.size()});
     XawTextBlock block{0, static_cast<int>(wide.size()),
                        reinterpret_cast<char*>(const_cast<UTF32::Unit*>(wide.begin())), XawFmtWide};
+    auto const top = view == View::Kept ? XawTextTopPosition(readOnlyText) : 0;
+    int const start = top < block.length ? static_cast<int>(top) : 0;
     SetResources(readOnlyText, {{XtNeditType, XawtextEdit}});
     XawTextReplace(readOnlyText, 0, XawTextLastPosition(readOnlyText), &block);
-    SetResources(readOnlyText, {{XtNeditType, XawtextRead}, {XtNinsertPosition, 0}, {XtNdisplayPosition, 0}});
+    SetResources(readOnlyText, {{XtNeditType, XawtextRead}, {XtNinsertPosition, start}, {XtNdisplayPosition, start}});
     // Drawn anew as a whole: lines of another height would leave parts of the old ones behind.
     if (XtIsRealized(readOnlyText)) XClearArea(XtDisplay(readOnlyText), XtWindow(readOnlyText), 0, 0, 0, 0, True);
 }

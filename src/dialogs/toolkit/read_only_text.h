@@ -8,5 +8,7 @@
 // `text`, in the locale's encoding, is copied. `arguments` adds what is particular. Main thread only.
 Widget CreateReadOnlyText(Widget parent, char const* name, char const* text, Arguments arguments);
 
-// Replaces the text; the view starts at its beginning again.
-void SetText(Widget readOnlyText, char const* text);
+// Replaces the text. The view starts at its beginning again, or at the character where it is, if there is still
+// one: for a text that goes on while it is read.
+enum class View { FromTheBeginning, Kept };
+void SetText(Widget readOnlyText, char const* text, View view = View::FromTheBeginning);
