@@ -7,6 +7,7 @@
 #include <X11/Xaw/Label.h>
 
 #include <algorithm>
+#include <optional>
 #include <string>
 
 #include "core/process/process_state.h"
@@ -26,7 +27,7 @@
 
 namespace {
 
-constexpr int kGap = 4;  // Pixels between neighbours, the form's own default.
+constexpr int kGap = 4;  // Pixels between neighbours.
 constexpr int kSnoozeListWidth = 400;
 constexpr char const* kName = "ActionRequestDialog";
 
@@ -52,7 +53,8 @@ struct Dialog {
     Instant earliest_deadline{INT64_MAX};
     TimeInterval default_interval = TimeInterval::Minutes(5);
     bool snoozable = true;
-    std::string shown_description;  // What the text widget holds.
+    std::string shown_description;                   // What the text widget holds,
+    std::optional<unsigned long long> described_id;  // of this action, or of all.
 };
 
 // Never destroyed: the rows that the widgets borrow must outlive them.
@@ -118,11 +120,15 @@ void RebuildChoices(bool anyDeadline) {
     dialog.snooze_list.Highlight(dialog.selected_choice);
 }
 
-// Only a changed text is set: setting it scrolls the reader back to the beginning.
+// What is being read stays in view while its countdown runs.
 void ShowDescription(AutoNullTerminated<char> const& text) {
+    auto const* id = SelectedID();
+    auto const described = id ? std::optional(*id) : std::nullopt;
+    auto const view = described == dialog.described_id ? View::Kept : View::FromTheBeginning;
+    dialog.described_id = described;
     if (dialog.shown_description == text.c_str()) return;
     dialog.shown_description = text.c_str();
-    SetText(dialog.description, text.c_str());
+    SetText(dialog.description, text.c_str(), view);
 }
 
 // The label is one line high: of several it would show those in the middle.
@@ -167,18 +173,19 @@ int LayOutButtonRow() {
 }
 
 // The window is as wide as its buttons need: the texts and the list take the width of the wider row, and "snoozeButton"
-// ends where they end.
+// ends where they end, or where the display ends, if it has the room: without it nobody can snooze.
 void LayOut() {
     dialog.snooze_list.Fit(kSnoozeListWidth);
     int const snooze_left = kGap + OuterWidthOf(dialog.snooze_list.Viewport()) + kGap;
-    int const right = std::max(LayOutButtonRow(), snooze_left + OuterWidthOf(dialog.snooze));
-    SetResources(dialog.snooze, {{XtNhorizDistance, right - OuterWidthOf(dialog.snooze)}});
+    int const snooze_right = snooze_left + OuterWidthOf(dialog.snooze);
+    int const right = std::max(LayOutButtonRow(), snooze_right);
+    int const reachable_right = std::max(std::min(right, DisplayWidthInPixels() - 4 * kGap), snooze_right);
+    SetResources(dialog.snooze, {{XtNhorizDistance, reachable_right - OuterWidthOf(dialog.snooze)}});
 
     int const width = right - kGap - 2 * BorderWidthOf(dialog.title);
     for (Widget wide : {dialog.title, dialog.description})
         if (WidthOf(wide) != ClampedSize(width)) Rewiden(wide, width);
-    Widget scrollbar = VerticalScrollbar(dialog.action_list.Viewport());
-    dialog.action_list.Fit(scrollbar ? width - WidthOf(scrollbar) : width);
+    dialog.action_list.Fit(width);
 }
 
 void RefreshContents() {
@@ -283,7 +290,7 @@ void AnchorAll(Widget form) {
 void Build() {
     auto const title = ControlLiteral(LocalizedStrings::ActionRequestTitle());
     dialog.shell = CreateDialogShell(kName, title.c_str());
-    Widget form = Create(dialog.shell, "form", formWidgetClass);
+    Widget form = Create(dialog.shell, "form", formWidgetClass, {{XtNdefaultDistance, kGap}});
     CreateActionPart(form);
     CreateActionButtons(form);
     CreateSnoozePart(form);

@@ -2,6 +2,7 @@
 #include <X11/Shell.h>
 #include <X11/StringDefs.h>
 #include <X11/Xaw/List.h>
+#include <X11/Xaw/Text.h>
 #include <sys/time.h>
 
 #include <algorithm>
@@ -146,10 +147,11 @@ TEST_F(DialogsTest, EverythingFitsTheWindowAfterEachRefreshAndTheScrollBarComesA
         Pend(count);
         Refresh();
         EXPECT_LE(HeightOf(ListIn("form.viewport")), 32767);
-        EXPECT_EQ(VerticalScrollbar(InDialog("form.viewport")) != nullptr, count > 5);
-        // With or without the bar.
-        for (auto name : {"form.viewport", "form.actiondesc"})
-            EXPECT_EQ(WidthOf(InDialog(name)), WidthOf(InDialog("form.actiontitle"))) << name;
+        Widget const bar = VerticalScrollbar(InDialog("form.viewport"));
+        EXPECT_EQ(bar != nullptr, count > 5);
+        int const width = WidthOf(InDialog("form.actiontitle"));
+        EXPECT_EQ(WidthOf(InDialog("form.viewport")), width + (bar ? WidthOf(bar) : 0)) << "the rows keep their width";
+        EXPECT_EQ(WidthOf(InDialog("form.actiondesc")), width);
         int right = 4;
         for (auto name : {"form.takeAllActions", "form.takeActions", "form.cancelAction", "form.actionDetails"}) {
             EXPECT_GE(LeftOf(InDialog(name)), right) << name;
@@ -195,6 +197,29 @@ TEST_F(DialogsTest, ADisabledDialogKeepsItsListAndHearsNothing) {
     EnableActionRequestDialog();
     RefreshActionRequestDialog();
     EXPECT_EQ(HighlightedRow(ListIn("form.viewport")), 3) << "which row is still the selected one can be seen";
+}
+
+TEST_F(DialogsTest, ADescriptionThatGoesOnStaysWhereItIsRead) {
+    auto describe = [this](std::string const& text) {
+        Pend(2,
+             [&](ActionRequest& action) { action.SetDescription(UStringRef<UTF8>(text + std::to_string(action.id))); });
+    };
+    auto top = [] {
+        XawTextPosition position = -1;
+        XtVaGetValues(InDialog("form.actiondesc"), XtNdisplayPosition, &position, nullptr);
+        return position;
+    };
+    describe("1\n2\n3\n4\n5\n6\n7 s");
+    Show();
+    SelectRow(0);
+    SetResources(InDialog("form.actiondesc"), {{XtNinsertPosition, 6}, {XtNdisplayPosition, 6}});
+    for (auto* text : {"1\n2\n3\n4\n5\n6\n6 s", "1\n2\n3\n4\n5\n6\n5 s"}) {
+        describe(text);
+        Refresh();
+        EXPECT_EQ(top(), 6) << text;
+    }
+    SelectRow(1);
+    EXPECT_EQ(top(), 0);
 }
 
 TEST_F(DialogsTest, AKeyOpensNoSearchWindowOverTheDescription) {
