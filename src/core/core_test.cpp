@@ -151,9 +151,16 @@ TEST_F(CoreTest, AnAnswerToAnotherQuestionDoesNotContinueTheTakeAll) {
 TEST_F(CoreTest, AnAnswerDoesNotCountForAnotherActionOfTheID) {
     Receive(Request(1, kAsk));
     Decide(UICommandType::Take, 1);
-    Receive(Removal(1, "Action") + Request(1, "<PreActionMessage>Other?</PreActionMessage>"));
+    for (std::string const other : {"<PreActionMessage>Other?</PreActionMessage>", "<Title>x</Title>"}) {
+        Receive(Removal(1, "Action") + Request(1, other + kAsk));
+        Decide(UICommandType::ConfirmationAccepted, 1);
+        EXPECT_THAT(Replies(), IsEmpty()) << "it is asked about now";
+    }
+    Receive(Removal(1, "Action") + Request(1, "<Title>x</Title><Restart>1</Restart>" + std::string(kAsk)));
     Decide(UICommandType::ConfirmationAccepted, 1);
-    EXPECT_THAT(Replies(), IsEmpty()) << "it is asked about now";
+    EXPECT_THAT(Replies(), ElementsAre(Taken(1))) << "the question is the same";
+    Receive(Request(1, kAsk));
+    Decide(UICommandType::Take, 1);
     Receive(Removal(1, "Action") + Request(1));
     Decide(UICommandType::ConfirmationAccepted, 1);
     EXPECT_THAT(Replies(), IsEmpty());
@@ -168,9 +175,17 @@ TEST_F(CoreTest, NothingIsSnoozedOverAnEmptyListWhateverComesBeforeThatIsLookedA
     ProcessMessagesFromUI();
     EXPECT_THAT(Replies(), IsEmpty());
     EXPECT_EQ(m_postponedTo, Instant(INT64_MAX));
+}
+
+TEST_F(CoreTest, ASnoozeCountsFromNowOrFromTheDeadlineInSecondsOf32Bits) {
+    Receive(Request(1));
     Decide(UICommandType::Snooze, 0, 30);
-    EXPECT_THAT(Replies(), ElementsAre(testing::StartsWith("RemindTime "), "RemindInterval TimeInterval=PT30M"));
     EXPECT_NEAR(static_cast<double>((m_postponedTo - Instant::Now()).Microseconds()), 30e6 * 60, 3e6);
+    EXPECT_THAT(Replies(), ElementsAre(testing::StartsWith("RemindTime "), "RemindInterval TimeInterval=PT30M"));
+    QueueCommand(UICommandType::Snooze, 0, -15, (7LL << 32) + 4'102'444'800);
+    ProcessMessagesFromUI();
+    EXPECT_THAT(Replies(), ElementsAre("RemindTime TimeObject=Thu, 31 Dec 2099 23:45:00 +0000",
+                                       "RemindInterval TimeInterval=-PT15M"));
 }
 
 TEST_F(CoreTest, TheSweepTakesOverdueForcedActionsOutsideQuietModeOnly) {

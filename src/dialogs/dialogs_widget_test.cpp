@@ -13,6 +13,7 @@
 #include "core/process/process_state.h"
 #include "core/process/ui_command.h"
 #include "core/process/x_connection.h"
+#include "dialogs/action_details_dialog.h"
 #include "dialogs/action_request_dialog.h"
 #include "dialogs/confirmation_dialog.h"
 #include "dialogs/message_dialogs.h"
@@ -279,6 +280,16 @@ TEST_F(DialogsTest, AConfirmationsButtonsStayOnTheDisplayWhateverItsTitle) {
         Widget const cancel = Find(shell, "form.cancel");
         EXPECT_EQ(RightOf(cancel) < WidthOf(shell) - 100, wide) << "no wider than it must be";
         HideConfirmationRequestDialog();
+    }
+}
+
+TEST_F(DialogsTest, APreviewOfAnActionThatIsGoneShowsTheLastScript) {
+    Pend(1, [](ActionRequest& action) { action.preview = SharedUString<UTF8>(UStringRef<UTF8>("echo")); });
+    for (int time = 0; time < 2; ++time) {
+        ShowActionDetailsDialog(0);
+        EXPECT_EQ(Text(Find(Shells("ActionDetailsDialog").at(0), "form.actiondetails"), XtNstring), "echo");
+        HideActionDetailsDialog();
+        actions.Clear();
     }
 }
 

@@ -25,7 +25,7 @@ TEST(LocalizedStringsTest, ATranslationChangesItsOwnEntryOnly) {
     EXPECT_STREQ(LocalizedStrings::Cancel().c_str(), "Cancel");
     EXPECT_STREQ(LocalizedStrings::QuietModeExplanation(at({1, 2, 3}), at({4, 5, 6})).c_str(),
                  "bis 04:05:06 ab 01:02:03");
-    EXPECT_THROW(LocalizedStrings::AnnounceOffers(2), UndefinedFormatVariable);
+    EXPECT_THROW(LocalizedStrings::AnnounceOffers(0), UndefinedFormatVariable);
     EXPECT_EQ(View(UnixPlatform::FormattedShortDayOfWeek(DayOfWeek::Sunday)), "So");
     EXPECT_EQ(View(UnixPlatform::FormattedLongDayOfWeek(DayOfWeek(7))), "kein Tag");
     EXPECT_EQ(View(UnixPlatform::FormattedLocalTime(at({7, 5, 9}))), "07:05:09 am Sun, 05 Jan 2014");

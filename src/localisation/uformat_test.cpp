@@ -25,6 +25,7 @@ TEST(UFormatTest, VariablesAreReplacedByName) {
     EXPECT_EQ(Render("k", "1{_cr}2{_lf}3{_crlf}4{_tab}5", {}), "1\r2\n3\r\n4\t5");
     EXPECT_EQ(Render("{start} and {end}", "{end} / {start}", {"9:00", "17:00"}), "17:00 / 9:00");
     EXPECT_EQ(Render("{a}{b}", "{b}{b}", {"1", "2"}), "22");
+    EXPECT_EQ(Render("{x}{x}", "{x}{x}", {"y", "x"}), "xx");
     EXPECT_EQ(Render("{a}{_tab}{b}", "{b}{a}", {"", "{a}"}), "{a}");
     EXPECT_EQ(Render("{-ab}{a_}", "{a_}{-ab}", {"1", "2"}), "21");
     EXPECT_EQ(Render("k", "\xff{_lf}\xc0", {}), "\xff\n\xc0");

@@ -23,6 +23,7 @@ TEST(XMLDuration, IsWrittenToTheByteAndReadInOtherSpellingsToo) {
     for (auto const& [text, microseconds] : {Case{"PT0S", 0},
                                              {"PT0.000500S", 500},
                                              {"-PT1M", -60'000'000},
+                                             {"P1D", 86'400'000'000},
                                              {"P1DT1H1S", 90'001'000'000},
                                              {"PT23H59M59.999999S", 86'399'999'999},
                                              {"P106751991DT4H54.775807S", LLONG_MAX},
@@ -45,7 +46,7 @@ TEST(XMLDuration, FailsWithTheMessageOfItsFault) {
     for (auto const* text : {"P4294967296D", "PT1S4294967296", "P106751992D", "P106751991DT4H54.775808S",
                              "-P106751991DT4H54.775809S", "P213503982DT8H1M49.551616S"})
         EXPECT_EQ(ReadAs(text), general + " due to integer overflow.") << text;
-    for (auto const* text : {"PT1.1234567S", "PT1.0000000S"})
+    for (auto const* text : {"PT1.1234567S", "PT1.0000000S", "PT0.0000000000000000000000000000000000000000S"})
         EXPECT_EQ(ReadAs(text), general + ": cannot handle more than microsecond precision.") << text;
 }
 

@@ -69,7 +69,8 @@ TEST_F(Actions, FiveHundredScroll) {
 
 // With the first and the third button.
 TEST_F(Actions, TenThousandLinesScroll) {
-    Play("initialize\nrequest id=1 title=Long preview=\"" + Repeated("a line...\\n", 110000) + "\"");
+    std::string const lines = Repeated("a line...\\n", 110000);
+    Play("initialize\nrequest id=1 title=Long preview=\"" + lines + "\" confirm=\"" + lines + "\"");
     Play(R"(
         wait window ActionRequestDialog
         select row 1
@@ -80,5 +81,11 @@ TEST_F(Actions, TenThousandLinesScroll) {
         drag form.actiondetails.vScrollbar 0.5 0.9 button=3
         wait widget form.actiondetails displayPosition=[89]????
         click form.ok
+        wait window ActionRequestDialog
+        click form.takeActions
+        wait window ConfirmationDialog
+        drag form.actionconfirmation.vScrollbar 0.5 0.9 button=3
+        wait widget form.actionconfirmation displayPosition=[1-9]????
+        click form.cancel
     )");
 }

@@ -46,6 +46,10 @@ TEST_F(Exit, AClientThatOnlyStopsReadingIsNoticedByTheNextAnswer) {
     Play("close reading\ninitialize\nrequest id=1 title=One force deadline=-1h\nexpect exit 0 within 8s");
 }
 
+TEST_F(Exit, AReportThatNobodyReadsHoldsNothingUp) {
+    Play("close reading\ninitialize\nrequest id=1 title=é\nexpect exit 0");
+}
+
 TEST_F(Exit, AWindowThatAnotherProgramDestroysIs255) {
     ending_ = "exit 255";
     ShowOne();

@@ -68,7 +68,7 @@ TEST_F(Hostile, LongAndStrangeTextsAreShownAndTaken) {
     Start({{"LC_ALL", "C.UTF-8"}});
     Play("initialize locale");
     std::string const strange = "\x01\x02\x08\x1b\x7f \u202eright to left\u202d \u05d0 \ufeff \U0001F600 \u0301 {x} %s";
-    for (auto const& text : {strange, std::string(500000, 'x'), Repeated("a\\n", 500000), Repeated("é ", 500000)}) {
+    for (auto const& text : {strange, std::string(1000000, 'x'), Repeated("a\\n", 1000000), Repeated("é ", 1000000)}) {
         std::string const title = " id=1 title=\"" + text + "\"";
         Play("message text=\"" + text + "\"" + title + "\nwait window MessageDialog\nclick form.dismiss");
         Play("request confirm=\"" + text + "\"" + title);

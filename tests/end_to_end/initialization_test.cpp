@@ -24,26 +24,31 @@ TEST_F(Initialization, EmptiesTheBaseDirectoryAndFillsIt) {
         support-file page.html "<p>first</p>"
         support-file page.html "<p>second</p>"
         support-file empty.txt ""
+        support-file _brand.xlat "Action Requests\tFirst"
+        support-file _brand.xlat "Action Requests\tSecond"
         initialize
         open
-        wait window ActionRequestDialog
+        wait window Second
         support-file late.txt ""
         initialize
     )");
     // It happens once.
     Program().SendFrame(Overdue(1));
     Play("expect ActionTaken ID=1");
-    EXPECT_EQ(FilesIn(BaseDirectory()), (std::set{BaseDirectory() / "empty.txt", BaseDirectory() / "page.html"}));
+    EXPECT_EQ(FilesIn(BaseDirectory()), (std::set{BaseDirectory() / "_brand.xlat", BaseDirectory() / "empty.txt",
+                                                  BaseDirectory() / "page.html"}));
     EXPECT_EQ(Read(BaseDirectory() / "page.html"), "<p>second</p>");
     EXPECT_EQ(Read(Directory() / "outside" / "kept.txt"), "kept");
 }
 
 TEST_F(Initialization, RequestsBeforeItAndBesideItAreShown) {
-    Play("request id=1 title=Before");
+    Play("request id=1 title=Before\nmessage id=1 title=Kept\nmessage id=2 title=Withdrawn\nremove message 2");
     auto const base = BaseDirectory() / "made" / "with its parents";
     Program().SendFrame(Document("initialize base=\"" + base.string() + "\"\nrequest id=2 title=Dropped"));
     Play(R"(
         request id=3 title=Beside
+        wait window Kept
+        wait window Withdrawn gone
         wait window ActionRequestDialog
         wait property WM_CLIENT_LEADER=QENClientUIHiddenWindow
         click form.takeAllActions
@@ -74,6 +79,7 @@ TEST_P(FailingInitialization, IsFollowedByOneThatSucceeds) {
     Play("request id=1 title=One force deadline=-1h\nexpect ActionTaken ID=1");
     EXPECT_EQ(Read(Directory() / "full" / "old.txt"), "old");
     EXPECT_EQ(Read(Directory() / "file"), "in the way");
+    EXPECT_EQ(Read(Directory() / "half" / "a"), GetParam().first == std::string("HalfDone") ? "a" : "");
 }
 
 std::string const in_full = "<BaseDirectory>~/full</BaseDirectory>";
@@ -87,6 +93,9 @@ INSTANTIATE_TEST_SUITE_P(
                       Failure("HalfDone", "<BaseDirectory>~/half</BaseDirectory>" + one_then_none),
                       Failure("NameLeadsOut", in_full + tools::SupportFile("../file", "over it")),
                       Failure("NameIsParent", in_full + tools::SupportFile("..", "over it")),
+                      Failure("NameIsEmpty", in_full + tools::SupportFile("", "x")),
+                      Failure("NameIsItself", in_full + tools::SupportFile(".", "x")),
+                      Failure("NameIsCut", in_full + "<SupportFiles><FileName>a&#x0;b</FileName></SupportFiles>"),
                       Failure("NoDuration",
                               in_full + tools::Element("InitialUISettings", "<RemindInterval>soon</RemindInterval>"))),
     [](auto const& of) { return of.param.first; });

@@ -25,11 +25,17 @@ TEST_F(Resources, OfTheCommandLineTakeEffect) {
     EXPECT_EQ(Background(), 0x123456u);
 }
 
+TEST_F(Resources, ThatWidenTheDialogBeyondTheDisplayLeaveSnoozingInReach) {
+    Start({}, {"-xrm", "*takeActions.internalWidth: 700"});
+    Play("initialize snooze\nrequest id=1 title=One\nwait window ActionRequestDialog\nclick form.snoozeButton");
+    Play("expect RemindTime\nexpect RemindInterval");
+}
+
 TEST_F(Resources, ThatTakeAllWidthAwayCostNoAnswer) {
     Start({}, {"-xrm", "*columnSpacing: 0", "-xrm", "*internalWidth: 0", "-xrm", "*List.list: none"});
     Play(R"(
         initialize
-        request id=1 title="" confirm="Sure?"
+        request id=1 title="" confirm=""
         wait window ActionRequestDialog
         click form.takeAllActions
         wait window ConfirmationDialog
