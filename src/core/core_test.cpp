@@ -148,6 +148,22 @@ TEST_F(CoreTest, AnAnswerToAnotherQuestionDoesNotContinueTheTakeAll) {
     EXPECT_THAT(Replies(), ElementsAre(Taken(1)));
 }
 
+TEST_F(CoreTest, AnAnswerOnItsWayCountsForNoQuestionOfALaterTakeAll) {
+    Receive(Request(1, kAsk) + Request(2, kAsk));
+    for (unsigned long long asked : {1, 2}) {
+        Decide(UICommandType::TakeAll);
+        if (asked == 2) Decide(UICommandType::ConfirmationAccepted, 1);
+        Receive(Removal(2, "Action") + Request(2, "<PreActionMessage>Other?</PreActionMessage>"));
+        QueueCommand(UICommandType::TakeAll, 0, 0, 0);
+        Decide(UICommandType::ConfirmationAccepted, asked);
+        Decide(UICommandType::ConfirmationAccepted, 1);
+        EXPECT_THAT(Replies(), IsEmpty()) << "2 is asked about now";
+        Decide(UICommandType::ConfirmationDeclined, 2);
+        EXPECT_THAT(Replies(), IsEmpty());
+    }
+    EXPECT_THAT(Pending(), ElementsAre(1, 2));
+}
+
 TEST_F(CoreTest, AnAnswerDoesNotCountForAnotherActionOfTheID) {
     Receive(Request(1, kAsk));
     Decide(UICommandType::Take, 1);

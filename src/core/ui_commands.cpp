@@ -1,6 +1,7 @@
 #include "core/ui_commands.h"
 
 #include <optional>
+#include <utility>
 
 #include "core/process/client_writer.h"
 #include "core/process/process_state.h"
@@ -11,13 +12,20 @@
 
 namespace {
 
-// The take-all in progress, if there is one: the next action to come to is at the pending list's cursor, and the last
-// question put was about the action of this ID.
-bool take_all_in_progress = false;
-unsigned long long take_all_asked = 0;
+// Who has put a question: a take, the take-all in progress, or one before that.
+enum class Asker { Take, TakeAll, FormerTakeAll };
 
-// The action whose question was put last, as it was then.
-std::optional<ActionRequest>& question = *new std::optional<ActionRequest>;
+struct Question {
+    ActionRequest action;  // As it was when it was asked about.
+    Asker asker;
+};
+
+// Waits for its answer: from when it is put until the answer is carried out, which is in a later tick than the press.
+// Meanwhile no other is put, or the answer might count for one that nobody has read.
+std::optional<Question>& question = *new std::optional<Question>;
+
+// While a take-all is in progress, it comes next to the action at the pending list's cursor.
+bool take_all_in_progress = false;
 
 void SendActionTaken(ActionRequest const& action, bool cancel) {
     SendToClient(ClientWriter(), ActionTaken{.is_cancel = cancel, .is_offer = false, .id = action.id});
@@ -36,40 +44,30 @@ void TakeAllActions() {
     EnableActionRequestDialog();
 }
 
-// Puts the question of the first action of this ID, unless another one stands.
-void Ask(unsigned long long id) {
-    if (!IsConfirmationRequestDialogShown()) question = *actions.FindAction(id);
+// Asks about the first action of this ID.
+void Ask(unsigned long long id, Asker asker) {
+    question = {*actions.FindAction(id), asker};
     ShowConfirmationRequestDialog(id);
 }
 
-bool RequestConfirmationIfNeeded(ActionRequest const& action) {
-    if (!action.pre_action_message) return false;
-    Ask(action.id);
-    return true;
-}
-
-// Whether the answer to the question of this ID counts for this action: not when it says something else than the one that
-// the user was asked about, which the client has withdrawn meanwhile.
-bool AnswerIsFor(ActionRequest const& action) {
-    return !question || question->id != action.id ||
-           (question->title == action.title && question->pre_action_message == action.pre_action_message);
-}
-
 void WalkOnWithTakeAll() {
-    while (actions.TakeAllCursor() < actions.size()) {
+    for (; actions.TakeAllCursor() < actions.size(); actions.SetTakeAllCursor(actions.TakeAllCursor() + 1)) {
         auto const& action = actions[actions.TakeAllCursor()];
+        if (!action.pre_action_message) continue;
+        take_all_in_progress = true;
+        if (question) return;
         actions.SetTakeAllCursor(actions.TakeAllCursor() + 1);
-        take_all_asked = action.id;
-        take_all_in_progress = RequestConfirmationIfNeeded(action);
-        if (take_all_in_progress) return;
+        return Ask(action.id, Asker::TakeAll);
     }
     take_all_in_progress = false;
     TakeAllActions();
 }
 
-// A question that stands is taken back: each is put in its turn, or the answer to one would count for another.
+// A question that stands is taken back, and one of a take-all before this counts for nothing: each is put in its turn.
 void TakeAll() {
+    if (IsConfirmationRequestDialogShown()) question.reset();
     HideConfirmationRequestDialog();
+    if (question && question->asker == Asker::TakeAll) question->asker = Asker::FormerTakeAll;
     actions.SetTakeAllCursor(0);
     WalkOnWithTakeAll();
 }
@@ -77,7 +75,10 @@ void TakeAll() {
 void TakeOne(unsigned long long id) {
     auto position = actions.Find(id);
     if (position < actions.size()) {
-        if (RequestConfirmationIfNeeded(actions[position])) return;
+        if (actions[position].pre_action_message) {
+            if (!question) Ask(id, Asker::Take);
+            return;
+        }
         CompleteAction(position, false);
     }
     EnableActionRequestDialog();
@@ -89,37 +90,45 @@ void CancelOne(unsigned long long id) {
     EnableActionRequestDialog();
 }
 
-// A confirmation counts for the action that it names. One that the take-all did not put was asked for beside it; the
-// take-all's own question, which could not be shown meanwhile, is put again.
-void AcceptDuringTakeAll(unsigned long long id) {
-    if (id == take_all_asked) return WalkOnWithTakeAll();
-    auto position = actions.Find(id);
-    if (position < actions.size() && AnswerIsFor(actions[position])) CompleteAction(position, false);
-    if (!actions.FindAction(take_all_asked)) return WalkOnWithTakeAll();
-    Ask(take_all_asked);
+// Whether the answer counts for this action by itself: not when it says something else than the one that the user was
+// asked about, which the client has withdrawn meanwhile.
+bool IsAnswered(ActionRequest const& action, std::optional<Question> const& answered) {
+    return !answered || (answered->asker == Asker::Take && answered->action.title == action.title &&
+                         answered->action.pre_action_message == action.pre_action_message);
 }
 
 // An action that has come in place of the one asked about is put to the user in its turn, or left to another decision.
-void AcceptOne(unsigned long long id) {
+void AcceptOne(unsigned long long id, std::optional<Question> const& answered) {
     auto position = actions.Find(id);
     if (position < actions.size()) {
-        if (AnswerIsFor(actions[position]))
+        if (IsAnswered(actions[position], answered))
             CompleteAction(position, false);
-        else if (RequestConfirmationIfNeeded(actions[position]))
-            return;
+        else if (actions[position].pre_action_message)
+            return Ask(id, Asker::Take);
     }
     EnableActionRequestDialog();
 }
 
+// An answer to a take that was asked for beside the take-all counts by itself.
+void AcceptDuringTakeAll(unsigned long long id, std::optional<Question> const& answered) {
+    if (answered && answered->asker == Asker::Take) {
+        auto position = actions.Find(id);
+        if (position < actions.size() && IsAnswered(actions[position], answered)) CompleteAction(position, false);
+    }
+    WalkOnWithTakeAll();
+}
+
 void AcceptConfirmation(unsigned long long id) {
+    auto const answered = std::exchange(question, std::nullopt);
     if (take_all_in_progress)
-        AcceptDuringTakeAll(id);
+        AcceptDuringTakeAll(id, answered);
     else
-        AcceptOne(id);
+        AcceptOne(id, answered);
 }
 
 // Abandons the whole take-all, what was already confirmed included: that is meant.
 void DeclineConfirmation() {
+    question.reset();
     take_all_in_progress = false;
     EnableActionRequestDialog();
 }

@@ -6,6 +6,6 @@
 //
 // A take-all asks for one confirmation after the other, each with the next tick after its answer, and replies only when
 // the last is accepted. Its place in the list moves with the list, and an accepted confirmation counts only for the
-// action that it names: whatever is added or removed meanwhile, nothing that needs a confirmation is taken without its
-// own.
+// action that it names, as the user has read it: whatever is added or removed meanwhile, nothing that needs a confirmation
+// is taken without its own.
 void ProcessMessagesFromUI();
