@@ -4,7 +4,7 @@
 
 #include "core/process/pending_actions.h"
 #include "foundation/base/debuggable_exception.h"
-#include "foundation/text/auto_null_terminated.h"
+#include "foundation/text/auto_ustring.h"
 #include "foundation/time/instant.h"
 
 // What the action request dialog shows and allows, decided without a widget. All text is translated and in the locale's

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "foundation/text/auto_null_terminated.h"
+#include "foundation/text/auto_ustring.h"
 
 // Text for a widget resource, owned, in the locale's encoding.
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "foundation/text/auto_null_terminated.h"
 #include "foundation/text/auto_ustring.h"
 #include "foundation/time/instant.h"
 #include "localisation/localized_texts.h"

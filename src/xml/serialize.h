@@ -6,7 +6,7 @@
 #include "foundation/base/null_or.h"
 #include "foundation/files/file_location.h"
 #include "foundation/files/file_name.h"
-#include "foundation/text/copied_ustring.h"
+#include "foundation/text/auto_ustring.h"
 #include "foundation/text/shared_ustring.h"
 #include "foundation/time/time_interval.h"
 #include "foundation/time/time_object.h"

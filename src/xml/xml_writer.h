@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "foundation/text/shared_ustring.h"
-#include "foundation/text/text_receiver.h"
+#include "foundation/text/ustring_builder.h"
 
 class XMLElement;
 

@@ -1,7 +1,6 @@
 // Numerals are written as the standard library writes them, and read back with any padding.
 #include <charconv>
 
-#include "foundation/text/numeral.h"
 #include "foundation/text/numerals.h"
 #include "tests/fuzz/fuzz.h"
 

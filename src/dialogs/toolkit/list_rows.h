@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "dialogs/toolkit/widget.h"
-#include "foundation/text/auto_null_terminated.h"
+#include "foundation/text/auto_ustring.h"
 
 // The rows of one Athena list.
 //

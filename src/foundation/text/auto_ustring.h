@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <string_view>
 #include <utility>
 
 #include "foundation/text/ustring_ref.h"
@@ -75,4 +76,66 @@ AutoUString<E> MakeUString(typename E::Unit const* begin, typename E::Unit const
 template <class E>
 AutoUString<E> MakeUString(UStringRef<E> text) {
     return AutoUString<E>(text);
+}
+
+// An owned, zero-terminated copy of text, for platform interfaces. Move-only.
+template <class Unit>
+class AutoNullTerminated {
+  public:
+    // Holds the empty text, without a buffer.
+    AutoNullTerminated() = default;
+    // Copies the range. A zero unit inside it ends the text early for whoever reads it.
+    AutoNullTerminated(Unit const* begin, Unit const* end) {
+        auto size = static_cast<std::size_t>(end - begin);
+        units_ = std::make_unique_for_overwrite<Unit[]>(size + 1);
+        std::copy(begin, end, units_.get());
+        units_[size] = 0;
+    }
+    // Takes over a buffer that already ends in a zero unit.
+    explicit AutoNullTerminated(std::unique_ptr<Unit[]> terminated) : units_(std::move(terminated)) {}
+
+    // Never null; valid as long as this object holds the text. The buffer stays where it is when the object moves.
+    Unit const* c_str() const { return units_ ? units_.get() : EmptyString(); }
+
+    // The shared empty text.
+    static Unit const* EmptyString() {
+        static constexpr Unit empty[1] = {};
+        return empty;
+    }
+
+  private:
+    std::unique_ptr<Unit[]> units_;
+};
+
+// A zero-terminated copy.
+template <class E>
+AutoNullTerminated<typename E::Unit> MakeNullTerminatedString(AutoUString<E> const& text) {
+    return {text.begin(), text.end()};
+}
+
+// A string that is copied whole when the object is copied.
+template <class E>
+class CopiedUString {
+  public:
+    CopiedUString() = default;
+    CopiedUString(UStringRef<E> text) : text_(text) {}
+    CopiedUString(ResourceTransfer<AutoUString<E>> text) : text_(std::move(text)) {}
+    CopiedUString(CopiedUString const& other) : text_(other.Ref()) {}
+    CopiedUString(CopiedUString&&) noexcept = default;
+    CopiedUString& operator=(CopiedUString other) noexcept {
+        text_ = std::move(other.text_);
+        return *this;
+    }
+
+    UStringRef<E> Ref() const { return text_; }
+    operator UStringRef<E>() const { return text_; }
+    bool empty() const { return text_.empty(); }
+
+  private:
+    AutoUString<E> text_;
+};
+
+template <class E>
+bool operator==(CopiedUString<E> const& left, CopiedUString<E> const& right) {
+    return left.Ref() == right.Ref();
 }

@@ -1,11 +1,10 @@
 #pragma once
 
 #include "foundation/base/debuggable_exception.h"
-#include "foundation/text/auto_null_terminated.h"
 #include "foundation/text/auto_ustring.h"
 #include "foundation/text/fixed_ascii.h"
-#include "foundation/text/invalid_text_encoding.h"
 #include "foundation/text/shared_ustring.h"
+#include "foundation/text/transcode.h"
 
 // To and from the 8-bit encoding of the process's locale (LC_CTYPE), which is what the C library and the X toolkit take.
 //

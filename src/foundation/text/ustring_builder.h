@@ -3,8 +3,20 @@
 #include <algorithm>
 #include <memory>
 
+#include "foundation/base/const_data.h"
 #include "foundation/text/auto_ustring.h"
-#include "foundation/text/text_receiver.h"
+#include "foundation/text/ustring_ref.h"
+
+// Takes text piece by piece: Start once, Receive any number of times, ReceiveEnd once. The pieces are borrowed for the
+// call only. The default operations do nothing.
+template <class E>
+class UTextReceiver {
+  public:
+    virtual ~UTextReceiver() = default;
+    virtual void Start(E) {}
+    virtual void Receive(ConstArrayOf<typename E::Unit>) {}
+    virtual void ReceiveEnd() {}
+};
 
 // Collects text in a buffer that at least doubles when it grows, so that appending costs amortised constant time.
 //
