@@ -23,6 +23,7 @@ endfunction()
 function(add_test_program name)
   cmake_parse_arguments(PARSE_ARGV 1 program "" "" "SOURCES;LINKS;LABELS")
   add_executable(${name} ${program_SOURCES})
+  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR})
   target_link_libraries(${name} PRIVATE ${program_LINKS} GTest::gmock GTest::gtest_main)
   gtest_discover_tests(
     ${name}

@@ -5,7 +5,7 @@
 #include "channel/event_signal.h"
 #include "channel/mutex.h"
 #include "foundation/base/debuggable_exception.h"
-#include "foundation/time/time_interval.h"
+#include "foundation/time/instant.h"
 
 namespace UnixPlatform {
 

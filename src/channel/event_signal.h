@@ -3,7 +3,7 @@
 #include <pthread.h>
 #include <time.h>
 
-#include "foundation/time/time_interval.h"
+#include "foundation/time/instant.h"
 
 namespace UnixPlatform {
 

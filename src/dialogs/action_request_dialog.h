@@ -1,7 +1,7 @@
 #pragma once
 
 #include "dialogs/toolkit/widget.h"
-#include "foundation/time/time_interval.h"
+#include "foundation/time/instant.h"
 
 // The main window: the pending actions, what they involve, and what the user can do about them. At most one exists at a
 // time. Every decision becomes one UI command; the dialog itself never talks to the client. Main thread only; every

@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "foundation/text/shared_ustring.h"
-#include "foundation/time/time_interval.h"
+#include "foundation/time/instant.h"
 
 // One way to snooze: what the user reads and what it means. Positive minutes count from now, negative ones back from the
 // earliest deadline.

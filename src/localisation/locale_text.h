@@ -3,7 +3,7 @@
 #include "foundation/text/auto_ustring.h"
 #include "foundation/time/date_record.h"
 #include "foundation/time/instant.h"
-#include "foundation/time/time_of_day.h"
+#include "foundation/time/time_object.h"
 
 // Times, dates and numbers as the user reads them. The system's locale plays no part: dates and times have one form,
 // numbers are plain digits. Only the names of days that stand alone and the pattern that joins a date and a time can be

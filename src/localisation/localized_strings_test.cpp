@@ -2,11 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include "foundation/time/scoped_local_zone.h"
 #include "foundation/time/time_object.h"
 #include "localisation/format_errors.h"
 #include "localisation/locale_text.h"
 #include "localisation/uformat.h"
+#include "tests/support/scoped_local_zone.h"
 
 namespace {
 

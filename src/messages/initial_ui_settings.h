@@ -2,7 +2,7 @@
 
 #include "foundation/base/const_data.h"
 #include "foundation/base/null_or.h"
-#include "foundation/time/time_interval.h"
+#include "foundation/time/instant.h"
 #include "foundation/time/time_object.h"
 
 class XMLElement;

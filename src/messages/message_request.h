@@ -2,7 +2,7 @@
 
 #include "foundation/base/null_or.h"
 #include "foundation/text/shared_ustring.h"
-#include "foundation/time/time_interval.h"
+#include "foundation/time/instant.h"
 
 class XMLElement;
 

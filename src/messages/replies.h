@@ -2,7 +2,7 @@
 
 #include "foundation/base/const_data.h"
 #include "foundation/text/auto_ustring.h"
-#include "foundation/time/time_interval.h"
+#include "foundation/time/instant.h"
 #include "foundation/time/time_object.h"
 
 // The documents that the process sends to its client: one record each, and the whole text of its document (XML 1.0,

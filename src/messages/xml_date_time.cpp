@@ -4,8 +4,7 @@
 #include <cstdlib>
 
 #include "foundation/text/numerals.h"
-#include "foundation/time/buffer.h"
-#include "foundation/time/time_scanner.h"
+#include "foundation/time/text_to_time.h"
 #include "foundation/time/time_to_text.h"
 
 namespace {

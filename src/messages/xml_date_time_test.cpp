@@ -5,7 +5,7 @@
 #include <climits>
 #include <string>
 
-#include "foundation/time/scoped_local_zone.h"
+#include "tests/support/scoped_local_zone.h"
 
 namespace {
 

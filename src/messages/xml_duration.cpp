@@ -1,6 +1,6 @@
 #include "messages/xml_duration.h"
 
-#include "foundation/time/buffer.h"
+#include "foundation/time/time_to_text.h"
 #include "messages/xml_duration_parser.h"
 
 namespace {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "foundation/text/auto_ustring.h"
-#include "foundation/time/time_interval.h"
+#include "foundation/time/instant.h"
 
 // The duration in the lexical form of XML Schema's duration: the most days, hours and minutes that fit, then seconds.
 //

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "foundation/time/time_interval.h"
+#include "foundation/time/instant.h"
 
 // Reads a duration byte by byte. It accepts this part of XML Schema's duration, without blanks:
 //

@@ -8,7 +8,7 @@
 #include "foundation/files/file_name.h"
 #include "foundation/text/auto_ustring.h"
 #include "foundation/text/shared_ustring.h"
-#include "foundation/time/time_interval.h"
+#include "foundation/time/instant.h"
 #include "foundation/time/time_object.h"
 #include "xml/xml_element.h"
 #include "xml/xml_writer.h"

@@ -4,7 +4,6 @@
 #include "core/process/pending_actions.h"
 #include "foundation/files/file_location.h"
 #include "foundation/time/instant.h"
-#include "foundation/time/time_interval.h"
 
 class UnixPipe;
 

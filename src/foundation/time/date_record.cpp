@@ -5,7 +5,7 @@
 #include <limits>
 #include <tuple>
 
-#include "foundation/time/saturate.h"
+#include "foundation/time/instant.h"
 
 namespace {
 

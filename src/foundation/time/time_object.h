@@ -4,8 +4,53 @@
 
 #include "foundation/time/date_record.h"
 #include "foundation/time/instant.h"
-#include "foundation/time/time_of_day.h"
-#include "foundation/time/time_zone.h"
+
+// A reading of a 24-hour clock, to the second. It knows no date: arithmetic wraps within the day and never carries.
+//
+// The fields may hold a reading that no clock shows; Valid() tells.
+struct TimeOfDay {
+    static constexpr int kSecondsInDay = 86'400;
+
+    unsigned char hour = 0;
+    unsigned char minute = 0;
+    unsigned char second = 0;
+
+    // Seconds since midnight.
+    int SecondOfDay() const { return hour * 3'600 + minute * 60 + second; }
+    // Any number of seconds, whole days cast off. A negative one counts back from midnight.
+    void SetSecondOfDay(long long seconds);
+    bool Valid() const { return hour <= 23 && minute < 60 && second < 60; }
+
+    TimeOfDay& operator+=(long long seconds);
+    TimeOfDay& operator-=(long long seconds);
+
+    auto operator<=>(TimeOfDay const&) const = default;
+};
+
+// Seconds from `right` to `left`, negative when `right` is the later.
+inline int operator-(TimeOfDay left, TimeOfDay right) {
+    return left.SecondOfDay() - right.SecondOfDay();
+}
+
+// An offset from UTC, positive east of Greenwich.
+class TimeZone {
+  public:
+    // UTC itself.
+    constexpr TimeZone() = default;
+    constexpr explicit TimeZone(int seconds) : seconds_(seconds), microseconds_(seconds * TimeInterval::kSecond) {}
+
+    // The offset of local time that is in force now. It is used for other times of the year as well.
+    static TimeZone Local();
+
+    constexpr int Seconds() const { return seconds_; }
+    constexpr long long Microseconds() const { return microseconds_; }
+
+    constexpr bool operator==(TimeZone const&) const = default;
+
+  private:
+    int seconds_ = 0;
+    long long microseconds_ = 0;
+};
 
 // A calendar date and time of day as a clock in a given zone shows them, to the second.
 //
@@ -63,3 +108,7 @@ TimeObject NowLocalTime();
 TimeObject NowGMT();
 // The current date in a zone.
 DateRecord Today(TimeZone zone);
+
+// What a clock on the wall shows now: the local date, time of day and offset from UTC, all three from one reading, so
+// that a change of the offset never falls between them. A change of the system's zone is noticed.
+TimeObject ReadLocalClock();

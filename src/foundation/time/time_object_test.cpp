@@ -7,9 +7,9 @@
 #include <random>
 #include <utility>
 
-#include "foundation/time/scoped_local_zone.h"
 #include "foundation/time/text_to_time.h"
 #include "foundation/time/time_to_text.h"
+#include "tests/support/scoped_local_zone.h"
 
 namespace {
 
