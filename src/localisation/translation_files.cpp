@@ -2,7 +2,7 @@
 
 #include <limits>
 
-#include "foundation/files/file_reader.h"
+#include "foundation/files/file_access.h"
 
 std::set<SharingPtr<FormatFile>>& m_formatFiles = *new std::set<SharingPtr<FormatFile>>;
 std::set<SharingPtr<FormatOverrideScope>>& m_formatOverrides = *new std::set<SharingPtr<FormatOverrideScope>>;

@@ -3,8 +3,7 @@
 #include <utility>
 #include <vector>
 
-#include "foundation/files/file_reader.h"
-#include "foundation/files/file_writer.h"
+#include "foundation/files/file_access.h"
 #include "foundation/text/base64.h"
 #include "xml/serialize.h"
 

@@ -2,7 +2,6 @@
 
 #include "foundation/base/const_data.h"
 #include "foundation/files/file_location.h"
-#include "foundation/files/file_name.h"
 
 class XMLElement;
 

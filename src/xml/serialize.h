@@ -5,7 +5,6 @@
 
 #include "foundation/base/null_or.h"
 #include "foundation/files/file_location.h"
-#include "foundation/files/file_name.h"
 #include "foundation/text/auto_ustring.h"
 #include "foundation/text/shared_ustring.h"
 #include "foundation/time/instant.h"

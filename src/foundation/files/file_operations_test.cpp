@@ -6,10 +6,10 @@
 #include <filesystem>
 #include <vector>
 
+#include "foundation/files/file_access.h"
 #include "foundation/files/file_errors.h"
-#include "foundation/files/file_info.h"
-#include "foundation/files/file_reader.h"
-#include "foundation/files/test_directory.h"
+#include "foundation/files/file_location.h"
+#include "tests/support/test_directory.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "foundation/files/directories.h"
-#include "foundation/files/file_writer.h"
+#include "foundation/files/file_access.h"
 
 // For tests: an empty directory that goes, with everything in it, when this object does.
 class TestDirectory {
