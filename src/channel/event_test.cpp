@@ -7,7 +7,7 @@
 #include <future>
 #include <thread>
 
-#include "channel/platform_error.h"
+#include "channel/mutex.h"
 
 using namespace UnixPlatform;
 

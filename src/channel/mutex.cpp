@@ -2,8 +2,6 @@
 
 #include <cerrno>
 
-#include "channel/platform_error.h"
-
 namespace UnixPlatform {
 
 using Locker = PlatformLocker<MutexError>;

@@ -1,10 +1,32 @@
 #include "channel/portable_thread.h"
 
+#include <chrono>
 #include <cstdio>
 #include <memory>
+#include <thread>
+#include <vector>
 
-#include "channel/millisecond_sleep.h"
-#include "channel/thread_exit.h"
+void MilliSecondSleep(unsigned milliseconds) {
+    using namespace std::chrono;
+    if (milliseconds >= 1000) std::this_thread::sleep_for(seconds(milliseconds / 1000));
+    std::this_thread::sleep_for(microseconds(milliseconds % 1000 * 1000));
+}
+
+static std::vector<void (*)()>& Routines() {
+    static auto& routines = *new std::vector<void (*)()>;
+    return routines;
+}
+
+void AtThreadExit(void (*routine)()) {
+    Routines().push_back(routine);
+}
+
+void DoThreadExitRoutines() {
+    for (auto routine : Routines()) routine();
+}
+
+std::atomic<bool> ThreadKiller::m_kill = false;
+UnixPlatform::Event& ThreadKiller::m_Event = *new UnixPlatform::Event;
 
 using StartBlock = PortableThread::StartBlock;
 

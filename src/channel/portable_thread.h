@@ -5,6 +5,32 @@
 #include <atomic>
 #include <cstddef>
 
+#include "channel/event.h"
+
+// Sleeps that long; a signal does not cut the sleep short.
+void MilliSecondSleep(unsigned milliseconds);
+
+// Routines that every PortableThread runs at its end, process-wide.
+//
+// There is no lock: register during start-up, before the first thread runs. The registry is built on first use and
+// never torn down, since threads may end while the process exits.
+
+// Registers a routine; it runs once at the end of each thread, after those registered before it.
+void AtThreadExit(void (*routine)());
+
+// Runs the registered routines on the calling thread, in the order of their registration.
+void DoThreadExitRoutines();
+
+// The process-wide wish that service threads end. The pipe loops look at the flag on every pass; nothing in this
+// process sets it.
+//
+// Threads may look while the process exits, so neither member is ever destroyed.
+class ThreadKiller {
+  public:
+    static std::atomic<bool> m_kill;
+    static UnixPlatform::Event& m_Event;
+};
+
 // A detached thread with a life cycle that cleans up after itself.
 //
 // An owned thread is shared by its owner and the thread: the object stays valid until the owner calls Abandon, however

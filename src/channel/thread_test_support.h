@@ -8,7 +8,7 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "channel/thread_exit.h"
+#include "channel/portable_thread.h"
 #include "tools/waiting.h"
 
 // Waits until the condition holds, and answers whether it came to hold within half a minute.

@@ -1,8 +1,40 @@
 #pragma once
 
+#include <cstdint>
+#include <utility>
+
 #include "channel/access_lock.h"
-#include "channel/ui_message.h"
 #include "foundation/base/fifo_queue.h"
+#include "foundation/text/auto_ustring.h"
+
+// One message between client and process: a kind and a text, which is a whole XML document in UTF-8.
+//
+// The kind travels between threads with the message but never goes into a frame; every message has kind 0. Copying a
+// message copies its text, so two threads never share one.
+class UIMessage {
+  public:
+    UIMessage() = default;
+    explicit UIMessage(UStringRef<UTF8> text, std::uint32_t kind = 0) : kind_(kind), text_(text) {}
+    explicit UIMessage(ResourceTransfer<AutoUString<UTF8>> text, std::uint32_t kind = 0)
+        : kind_(kind), text_(std::move(text)) {}
+    UIMessage(UIMessage const& other) : UIMessage(other.Text(), other.kind_) {}
+    UIMessage(UIMessage&&) noexcept = default;
+    UIMessage& operator=(UIMessage other) noexcept {
+        kind_ = other.kind_;
+        text_ = std::move(other.text_);
+        return *this;
+    }
+
+    std::uint32_t Kind() const { return kind_; }
+
+    // Valid as long as the message is neither assigned to nor destroyed. Not known to be valid UTF-8: what the client
+    // sends is taken as it comes.
+    UStringRef<UTF8> Text() const { return {text_.begin(), text_.end()}; }
+
+  private:
+    std::uint32_t kind_ = 0;
+    AutoUString<UTF8> text_;
+};
 
 // The messages that one thread hands to another, first in first out.
 //

@@ -3,7 +3,7 @@
 
 #include <csignal>
 
-#include "channel/millisecond_sleep.h"
+#include "channel/portable_thread.h"
 #include "channel/unix_pipe.h"
 #include "core/client_messages.h"
 #include "core/process/client_writer.h"

@@ -1,6 +1,6 @@
 #include "core/process/client_writer.h"
 
-#include "channel/millisecond_sleep.h"
+#include "channel/portable_thread.h"
 #include "core/process/process_state.h"
 
 PipeWriter& ClientWriter() {
