@@ -1,10 +1,100 @@
 #include "xml/simple_xml_parser_pl.h"
 
 #include <algorithm>
+#include <bit>
+#include <cstdint>
+#include <cstring>
 #include <string_view>
 
-#include "xml/byte_scan.h"
-#include "xml/simple_xml_transitions.h"
+// Finding where a run of ordinary bytes ends, eight bytes at a time.
+
+namespace ByteScan {
+
+// Marks the bytes of the word that equal `byte` by their top bits. Above the lowest mark there may be false ones.
+inline std::uint64_t MarksOf(std::uint64_t word, char byte) {
+    constexpr std::uint64_t ones = 0x0101010101010101;
+    auto difference = word ^ (ones * static_cast<unsigned char>(byte));
+    return (difference - ones) & ~difference & (ones << 7);
+}
+
+// The first place of either byte, or `end`.
+inline char const* FindEither(char const* at, char const* end, char one, char other) {
+    for (; end - at >= 8; at += 8) {
+        std::uint64_t word;
+        std::memcpy(&word, at, 8);
+        auto marks = MarksOf(word, one) | MarksOf(word, other);
+        if (marks == 0) continue;
+        if constexpr (std::endian::native != std::endian::little) break;
+        return at + std::countr_zero(marks) / 8;
+    }
+    while (at != end && *at != one && *at != other) ++at;
+    return at;
+}
+
+}  // namespace ByteScan
+
+// What leaving and entering a state entails: a part of the parser's own sources, inlined where both states are known,
+// so that a transition costs no more than its actions.
+
+[[gnu::always_inline]] inline void SimpleXMLParserPL::LeaveState(State from, State next) {
+    switch (from) {
+        case State::Characters:
+        case State::CData:
+            FlushText();
+            break;
+        case State::CharactersEntity:
+            escape_ += ';';
+            handler_.Characters(DecodeEscapeString());
+            break;
+        case State::TagName:
+        case State::BetweenAttributes:
+            if (next == State::Characters) ReportTag();
+            break;
+        case State::EndTagName:
+            if (next == State::Characters) handler_.EndElement(tag_name_);
+            break;
+        case State::AttributeValue:
+            if (next != State::AttributeEntity) ++attribute_count_;
+            break;
+        case State::AttributeEntity:
+            escape_ += ';';
+            attribute_->second += DecodeEscapeString();
+            break;
+        default:
+            break;
+    }
+}
+
+[[gnu::always_inline]] inline void SimpleXMLParserPL::EnterState(State next) {
+    switch (next) {
+        case State::CharactersEntity:
+        case State::AttributeEntity:
+            escape_ = '&';
+            break;
+        case State::TagName:
+            dashes_ = 0;
+            tag_name_.clear();
+            attribute_count_ = 0;
+            break;
+        case State::BetweenAttributes:
+            BeginAttribute();
+            break;
+        case State::AttributeName:
+            attribute_->first += current_;
+            break;
+        case State::Comment:
+            dashes_ = 0;
+            break;
+        default:
+            break;
+    }
+}
+
+[[gnu::always_inline]] inline void SimpleXMLParserPL::Go(State from, State next) {
+    LeaveState(from, next);
+    EnterState(next);
+    state_ = next;
+}
 
 namespace {
 
@@ -211,4 +301,61 @@ void SimpleXMLParserPL::AppendWithoutZeros(char const* at, char const* end) {
         text_.append(at, Length(at, zero));
         at = zero == end ? end : zero + 1;
     }
+}
+
+namespace {
+
+// The value of the hexadecimal digits that the text begins with. It wraps around at 32 bits.
+std::uint32_t LeadingHexNumber(std::string_view text) {
+    std::uint32_t number = 0;
+    for (char byte : text) {
+        auto lower = byte | 0x20;
+        if (byte >= '0' && byte <= '9')
+            number = number * 16 + static_cast<std::uint32_t>(byte - '0');
+        else if (lower >= 'a' && lower <= 'f')
+            number = number * 16 + static_cast<std::uint32_t>(lower - 'a' + 10);
+        else
+            break;
+    }
+    return number;
+}
+
+}  // namespace
+
+void SimpleXMLParserPL::TransitionState(State next) {
+    Go(state_, next);
+}
+
+void SimpleXMLParserPL::FlushText() {
+    if (text_.empty()) return;
+    handler_.Characters(text_);
+    text_.clear();
+}
+
+void SimpleXMLParserPL::ReportTag() {
+    attributes_.clear();
+    for (std::uint32_t i = 0; i < attribute_count_; ++i) attributes_.push_back(&pairs_[i]);
+    if (tag_name_.starts_with('?'))
+        handler_.DoProcessingInstructionElement(tag_name_, attributes_);
+    else
+        handler_.StartElement(tag_name_, attributes_);
+}
+
+void SimpleXMLParserPL::BeginAttribute() {
+    if (pairs_.size() == attribute_count_) pairs_.emplace_back();
+    attribute_ = &pairs_[attribute_count_];
+    attribute_->first.clear();
+    attribute_->second.clear();
+}
+
+Stringy SimpleXMLParserPL::DecodeEscapeString() const {
+    if (escape_ == "&lt;") return "<";
+    if (escape_ == "&gt;") return ">";
+    if (escape_ == "&amp;") return "&";
+    if (escape_ == "&quot;") return "\"";
+    if (!escape_.starts_with("&#x")) return escape_;
+    auto number = LeadingHexNumber(std::string_view(escape_).substr(3));
+    // One raw byte, not the UTF-8 form of the character; the upper half of the range counts as negative.
+    if (static_cast<std::int32_t>(number) > 255) return escape_;
+    return Stringy(1, static_cast<char>(number));
 }

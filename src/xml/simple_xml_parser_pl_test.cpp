@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "xml/plain_parser.h"
+#include "xml/plain_parser_test_support.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include "foundation/base/debuggable_exception.h"
 #include "foundation/base/null_or.h"
 #include "foundation/text/shared_ustring.h"
-#include "xml/xml_attributes.h"
+#include "xml/sax_parser.h"
 
 class NoSuchChildElement : public DebuggableException {};
 class NoSuchAttribute : public DebuggableException {};

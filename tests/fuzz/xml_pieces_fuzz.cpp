@@ -1,6 +1,6 @@
 // A document gives the same events in whatever pieces it is fed: those of the plain parser.
 #include "tests/fuzz/fuzz.h"
-#include "xml/plain_parser.h"
+#include "xml/plain_parser_test_support.h"
 #include "xml/simple_xml_parser_pl.h"
 
 void Fuzz(std::string_view input) {

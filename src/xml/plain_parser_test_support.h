@@ -3,7 +3,7 @@
 #include <cctype>
 #include <vector>
 
-#include "xml/xml_handler.h"
+#include "xml/simple_xml_parser_pl.h"
 
 // What the parser is measured against, in tests.
 
