@@ -7,9 +7,7 @@
 #include "dialogs/message_dialogs.h"
 #include "dialogs/quiet_mode_dialog.h"
 #include "messages/apply_initialization_info.h"
-#include "messages/message_request.h"
-#include "messages/quiet_mode_start.h"
-#include "messages/remove_request.h"
+#include "messages/client_requests.h"
 #include "xml/simple_xml.h"
 
 namespace {

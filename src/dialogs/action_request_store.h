@@ -4,7 +4,7 @@
 #include <span>
 
 #include "foundation/base/debuggable_exception.h"
-#include "messages/action_request.h"
+#include "messages/client_requests.h"
 
 // No action of this ID is in the store.
 class NoSuchActionRequestID : public DebuggableException {};

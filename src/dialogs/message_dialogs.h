@@ -1,6 +1,6 @@
 #pragma once
 
-#include "messages/message_request.h"
+#include "messages/client_requests.h"
 
 // The messages that the client asks to be shown, each in a dialog of its own with one button; any number at once. A
 // message is known by its ID. Closing one tells nobody. Main thread only.

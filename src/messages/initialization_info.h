@@ -2,10 +2,74 @@
 
 #include <vector>
 
+#include "foundation/base/const_data.h"
 #include "foundation/base/null_or.h"
 #include "foundation/files/file_location.h"
-#include "messages/file_transfer.h"
-#include "messages/initial_ui_settings.h"
+#include "foundation/time/instant.h"
+#include "foundation/time/time_object.h"
+
+class XMLElement;
+
+// One support file as it travels inside a message: its name, the sub-folder it belongs to, and its bytes in base64
+// (RFC 4648), possibly broken into lines. A value.
+class FileTransfer {
+  public:
+    FileTransfer() = default;
+    FileTransfer(FileName const& name, FileName const& subFolder, Stringy base64Content);
+    // Takes the content from the file. Throws what reading it throws (file_errors.h).
+    FileTransfer(FileLocation const& file, FileName const& name, FileName const& subFolder);
+
+    FileName const& Name() const { return name_; }
+    FileName const& SubFolder() const { return sub_folder_; }
+    Stringy const& Content() const { return content_; }
+    // Whether the file belongs directly into the base directory; only such files are looked up by name.
+    bool IsTopLevel() const;
+
+    // Creates or overwrites the file with the decoded content. Bytes outside the base64 alphabet, line breaks and
+    // padding among them, are skipped: no content is ever refused. Throws what writing throws (file_errors.h).
+    void WriteToFile(FileLocation const& file) const;
+    // Replaces the content by that of the file. Throws what reading it throws.
+    void ReadFromFile(FileLocation const& file);
+
+    friend void XMLLoad(XMLElement const& element, FileTransfer& file);
+
+  private:
+    FileName name_;
+    FileName sub_folder_;
+    Stringy content_;
+};
+
+// Reads "FileName", "SubFolder" and "Content". The names are stored as they stand, unchecked.
+void XMLLoad(XMLElement const& element, FileTransfer& file);
+
+class XMLElement;
+
+// The settings that the client hands over at the start. Everything is zero, false or null until read.
+//
+// No dialog of this program reads the history, balloon, tray and activity settings: they belong to the client's message
+// and are kept complete.
+struct InitialUISettings {
+    TimeInterval remind_interval{0};
+    NullOr<TimeObject> remind_time;
+    unsigned history_mode = 0;
+    unsigned tech_history_mode = 0;
+    NullOr<TimeInterval> max_history_age;
+    NullOr<TimeInterval> max_tech_history_age;
+    unsigned balloon_mode = 0;
+    unsigned tray_mode = 0;
+    bool has_main_dialog = false;
+    bool allow_snooze = false;
+    bool always_topmost = false;
+    bool display_single_action_summary = false;
+    bool use_locale = false;
+    TimeInterval idle_threshold{0};
+    bool use_activity_tracking = false;
+    bool action_running_tray = false;
+    NullOr<Stringy> initial_tab_id;
+};
+
+// Reads the fields that the element has, in the order above; the others keep what they hold.
+void XMLSerialize(XMLElement const& element, InitialUISettings& settings);
 
 class XMLElement;
 

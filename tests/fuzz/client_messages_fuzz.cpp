@@ -1,8 +1,6 @@
 // Any document becomes requests of every kind or is refused; of an action can be told what it involves.
 #include "localisation/action_summary.h"
-#include "messages/message_request.h"
-#include "messages/quiet_mode_start.h"
-#include "messages/remove_request.h"
+#include "messages/client_requests.h"
 #include "tests/fuzz/fuzz.h"
 #include "xml/simple_xml.h"
 

@@ -1,6 +1,6 @@
 // A withdrawal that is written reads back as it was.
 #include "foundation/text/ustring_builder.h"
-#include "messages/remove_request.h"
+#include "messages/client_requests.h"
 #include "tests/fuzz/fuzz.h"
 #include "xml/serialize.h"
 #include "xml/simple_xml.h"

@@ -4,7 +4,7 @@
 #include <span>
 #include <vector>
 
-#include "messages/action_request.h"
+#include "messages/client_requests.h"
 
 // The action requests that the client offers and the user has not yet answered, in arrival order. Main thread only.
 //

@@ -1,5 +1,7 @@
-#include "messages/action_request.h"
+#include "messages/client_requests.h"
 
+#include <array>
+#include <string_view>
 #include <utility>
 
 #include "xml/serialize.h"
@@ -46,4 +48,37 @@ void XMLSerialize(XMLElement const& element, ActionRequest& request) {
     XMLSerialize(element, "ForceRun", request.force_run);
     XMLSerialize(element, "RequestSave", request.request_save);
     XMLSerialize(element, "UseCannedStrings", request.use_canned_strings);
+}
+
+void XMLSerialize(XMLElement const& element, MessageRequest& request) {
+    XMLSerialize(element, "IsCompletionMessage", request.is_completion_message);
+    XMLSerialize(element, "Timeout", request.timeout);
+    XMLSerialize(element, "Title", request.title);
+    XMLSerialize(element, "Message", request.message);
+    XMLSerialize(element, "ID", request.id);
+}
+
+void XMLSerialize(XMLElement const& element, QuietModeStart& period) {
+    XMLSerialize(element, "StartTime", period.start_time);
+    XMLSerialize(element, "EndTime", period.end_time);
+}
+
+namespace {
+
+// In the order of the enumeration.
+constexpr std::array<char const*, 4> kRemoveTypes = {"Action", "Offer", "Message", "All"};
+
+}  // namespace
+
+void XMLLoad(XMLElement const& element, RemoveRequest& request) {
+    Stringy type;
+    XMLLoad(element, "RemoveType", type);
+    for (std::size_t i = 0; i < kRemoveTypes.size(); ++i)
+        if (type == kRemoveTypes[i]) request.remove_type = static_cast<RemoveType>(i);
+    XMLLoad(element, "ID", request.id);
+}
+
+void XMLSave(XMLWriter& writer, RemoveRequest const& request) {
+    XMLSave(writer, "RemoveType", UStringRef<UTF8>(kRemoveTypes[static_cast<std::size_t>(request.remove_type)]));
+    XMLSave(writer, "ID", request.id);
 }

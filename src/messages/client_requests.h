@@ -39,3 +39,45 @@ struct ActionRequest {
 // Reads the fields that the element has; the others keep what they hold. A malformed number or time throws what its
 // reader throws (numerals.h, time_text.h), and the fields before it stay read.
 void XMLSerialize(XMLElement const& element, ActionRequest& request);
+
+class XMLElement;
+
+// The client asks for a message to be shown, or for the one of the same ID to be changed.
+struct MessageRequest {
+    bool is_completion_message = false;  // The title names an action that has completed.
+    NullOr<TimeInterval> timeout;        // Null: until dismissed.
+    SharedUString<UTF8> title;
+    SharedUString<UTF8> message;
+    unsigned long long id = 0;
+};
+
+// Reads the fields that the element has, in the order above; the others keep what they hold.
+void XMLSerialize(XMLElement const& element, MessageRequest& request);
+
+class XMLElement;
+
+// The period in which the user interface is not to be used. A time that the message lacks is the beginning of 1970.
+struct QuietModeStart {
+    TimeObject start_time;
+    TimeObject end_time;
+};
+
+void XMLSerialize(XMLElement const& element, QuietModeStart& period);
+
+class XMLElement;
+class XMLWriter;
+
+enum class RemoveType { Action = 0, Offer = 1, Message = 2, All = 3 };
+
+// The client withdraws an action, a message, or both.
+struct RemoveRequest {
+    unsigned long long id = 0;
+    RemoveType remove_type = RemoveType::All;
+};
+
+// Reads "RemoveType" and "ID". A type that is none of "Action", "Offer", "Message" and "All" to the letter leaves the
+// type as it is.
+void XMLLoad(XMLElement const& element, RemoveRequest& request);
+
+// Writes the two fields into the element that is open: the client's side of the same form.
+void XMLSave(XMLWriter& writer, RemoveRequest const& request);

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "messages/action_request.h"
+#include "messages/client_requests.h"
 #include "messages/initialization_info.h"
 #include "xml/serialize.h"
 #include "xml/simple_xml.h"
