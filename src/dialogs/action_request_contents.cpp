@@ -7,7 +7,6 @@
 #include "dialogs/action_request_store.h"
 #include "foundation/text/local_encoding.h"
 #include "localisation/action_summary.h"
-#include "localisation/control_literal.h"
 #include "localisation/locale_text.h"
 #include "localisation/uformat.h"
 

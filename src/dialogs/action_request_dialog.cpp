@@ -22,8 +22,8 @@
 #include "dialogs/toolkit/read_only_text.h"
 #include "dialogs/toolkit/widgets.h"
 #include "foundation/text/local_encoding.h"
-#include "localisation/control_literal.h"
 #include "localisation/localized_strings.h"
+#include "localisation/uformat.h"
 
 namespace {
 

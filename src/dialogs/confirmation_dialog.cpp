@@ -18,7 +18,7 @@
 #include "dialogs/toolkit/read_only_text.h"
 #include "dialogs/toolkit/widgets.h"
 #include "foundation/text/local_encoding.h"
-#include "localisation/control_literal.h"
+#include "localisation/uformat.h"
 
 namespace {
 

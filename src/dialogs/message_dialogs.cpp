@@ -16,7 +16,6 @@
 #include "dialogs/toolkit/widgets.h"
 #include "foundation/text/local_encoding.h"
 #include "foundation/time/instant.h"
-#include "localisation/control_literal.h"
 #include "localisation/uformat.h"
 
 namespace {

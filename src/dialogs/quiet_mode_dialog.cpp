@@ -15,8 +15,8 @@
 #include "dialogs/toolkit/callbacks.h"
 #include "dialogs/toolkit/dialog_shell.h"
 #include "dialogs/toolkit/widgets.h"
-#include "localisation/control_literal.h"
 #include "localisation/localized_strings.h"
+#include "localisation/uformat.h"
 
 namespace {
 

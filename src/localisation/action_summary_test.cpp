@@ -7,7 +7,6 @@
 
 #include "localisation/action_sentences.h"
 #include "localisation/deadline_text.h"
-#include "localisation/summary_row.h"
 
 namespace {
 

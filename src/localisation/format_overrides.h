@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "foundation/base/debuggable_exception.h"
-#include "localisation/format_bindings.h"
+#include "localisation/format_string.h"
 #include "localisation/list.h"
 
 // Texts that stand in for the program's English ones.

@@ -4,6 +4,8 @@
 #include "localisation/locale_text.h"
 #include "localisation/uformat.h"
 
+char const* const product_version = PRODUCT_VERSION;
+
 namespace {
 
 namespace Sentence {

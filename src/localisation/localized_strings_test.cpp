@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "foundation/time/time_object.h"
-#include "localisation/format_errors.h"
+#include "localisation/format_string.h"
 #include "localisation/locale_text.h"
 #include "localisation/uformat.h"
 #include "tests/support/scoped_local_zone.h"

@@ -3,9 +3,10 @@
 #include <algorithm>
 #include <array>
 
+#include "foundation/text/auto_ustring.h"
 #include "foundation/text/local_encoding.h"
 #include "localisation/format_overrides.h"
-#include "localisation/formatted_string.h"
+#include "localisation/format_string.h"
 
 // Every text that the user sees comes from here.
 //
@@ -78,3 +79,12 @@ template <class Format>
 AutoNullTerminated<char> MakePlatformString(Format const& format) {
     return MakeLocalString(format);
 }
+
+// Text for a widget resource, owned, in the locale's encoding.
+
+// A fixed English text, translated. Null is the empty text. Throws as MakeLocalString does.
+AutoNullTerminated<char> ControlLiteral(char const* english);
+// Text that is in the locale's encoding already.
+AutoNullTerminated<char> ControlLiteral(AutoNullTerminated<char> text);
+// A copy of the bytes as they stand, not translated. Null is the empty text.
+AutoNullTerminated<char> FunkyControlLiteral(char const* text);

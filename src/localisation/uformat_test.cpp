@@ -4,8 +4,7 @@
 
 #include <vector>
 
-#include "localisation/control_literal.h"
-#include "localisation/format_errors.h"
+#include "localisation/format_string.h"
 
 namespace {
 

@@ -1,8 +1,6 @@
-#include "localisation/control_literal.h"
+#include "localisation/uformat.h"
 
 #include <cstring>
-
-#include "localisation/uformat.h"
 
 AutoNullTerminated<char> ControlLiteral(char const* english) {
     return MakePlatformString(UFormat(english));

@@ -1,9 +1,29 @@
-#include "localisation/format_bindings.h"
+#include "localisation/format_string.h"
 
 #include <algorithm>
 
 #include "foundation/text/ascii.h"
-#include "localisation/format_errors.h"
+#include "foundation/text/ustring_builder.h"
+
+UFormatIterator::UFormatIterator(UStringRef<UTF8> format) : next_(format.begin()), end_(format.end()) {
+    GetNextSegment();
+}
+
+UFormatIterator UFormatIterator::End(UStringRef<UTF8> format) {
+    UFormatIterator end;
+    end.current_ = end.next_ = end.end_ = format.end();
+    return end;
+}
+
+void UFormatIterator::GetNextSegment() {
+    current_ = next_;
+    bool variable = current_ != end_ && *current_ == '{';
+    auto begin = variable ? current_ + 1 : current_;
+    auto stop = std::find(begin, end_, static_cast<UTF8::Unit>(variable ? '}' : '{'));
+    if (variable && stop == end_) throw BadFormatStringError();
+    segment_ = {variable, {begin, stop}};
+    next_ = variable ? stop + 1 : stop;
+}
 
 namespace {
 
@@ -54,4 +74,10 @@ UStringRef<UTF8> FormatExpressionValue(UStringRef<UTF8> name, ConstArrayOf<Forma
 
 UStringRef<UTF8> FormatSegmentValue(UFormatSegment const& segment, ConstArrayOf<FormatBinding> bindings) {
     return segment.variable ? FormatExpressionValue(segment.text, bindings) : segment.text;
+}
+
+AutoUString<UTF8> MakeUString(FormattedStringIterator begin, FormattedStringIterator end) {
+    UStringBuilder<UTF8> rendered;
+    for (auto segment = begin; segment != end; ++segment) rendered.Append(*segment);
+    return rendered.MakeString();
 }

@@ -1,3 +1,0 @@
-#include "localisation/product.h"
-
-char const* const product_version = PRODUCT_VERSION;
