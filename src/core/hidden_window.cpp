@@ -6,8 +6,8 @@
 
 #include <string_view>
 
+#include "core/process/process_state.h"
 #include "core/process/ui_command.h"
-#include "core/process/x_connection.h"
 #include "dialogs/toolkit/callbacks.h"
 #include "dialogs/toolkit/dialog_shell.h"
 

@@ -7,7 +7,6 @@
 
 #include "core/process/process_state.h"
 #include "core/process/ui_command.h"
-#include "core/process/x_connection.h"
 #include "dialogs/action_request_dialog.h"
 #include "dialogs/dialog_building.h"
 #include "dialogs/toolkit/callbacks.h"

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "core/process/pending_actions.h"
+#include "core/process/process_state.h"
 #include "foundation/base/debuggable_exception.h"
 #include "foundation/text/auto_ustring.h"
 #include "foundation/time/instant.h"

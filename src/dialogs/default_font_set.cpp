@@ -8,7 +8,7 @@
 #include <optional>
 #include <set>
 
-#include "core/process/x_connection.h"
+#include "core/process/process_state.h"
 
 namespace {
 

@@ -12,7 +12,6 @@
 
 #include "core/process/process_state.h"
 #include "core/process/ui_command.h"
-#include "core/process/x_connection.h"
 #include "dialogs/action_details_dialog.h"
 #include "dialogs/action_request_dialog.h"
 #include "dialogs/confirmation_dialog.h"

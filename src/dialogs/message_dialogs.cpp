@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <list>
 
-#include "core/process/x_connection.h"
+#include "core/process/process_state.h"
 #include "dialogs/dialog_building.h"
 #include "dialogs/toolkit/callbacks.h"
 #include "dialogs/toolkit/dialog_shell.h"

@@ -9,7 +9,6 @@
 #include "core/process/client_writer.h"
 #include "core/process/exit_cleanup.h"
 #include "core/process/process_state.h"
-#include "core/process/x_connection.h"
 #include "dialogs/default_font_set.h"
 #include "dialogs/toolkit/callbacks.h"
 #include "dialogs/toolkit/dialog_shell.h"

@@ -4,7 +4,6 @@
 #include <string>
 
 #include "core/process/process_state.h"
-#include "core/process/x_connection.h"
 #include "dialogs/action_details_dialog.h"
 #include "dialogs/action_request_dialog.h"
 #include "tests/support/dialog_display.h"

@@ -5,7 +5,6 @@
 #include <clocale>
 
 #include "core/process/process_state.h"
-#include "core/process/x_connection.h"
 #include "dialogs/toolkit/dialog_shell.h"
 #include "tools/virtual_display.h"
 

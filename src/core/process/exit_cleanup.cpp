@@ -7,7 +7,7 @@
 #include <cstdlib>
 #include <utility>
 
-#include "core/process/x_connection.h"
+#include "core/process/process_state.h"
 
 namespace {
 

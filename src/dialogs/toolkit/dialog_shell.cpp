@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "core/process/exit_cleanup.h"
-#include "core/process/x_connection.h"
+#include "core/process/process_state.h"
 #include "dialogs/toolkit/callbacks.h"
 #include "dialogs/toolkit/widgets.h"
 

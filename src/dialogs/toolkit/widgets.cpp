@@ -8,7 +8,7 @@
 #include <cstring>
 #include <vector>
 
-#include "core/process/x_connection.h"
+#include "core/process/process_state.h"
 
 namespace {
 

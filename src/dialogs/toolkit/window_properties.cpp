@@ -8,7 +8,7 @@
 
 #include <string_view>
 
-#include "core/process/x_connection.h"
+#include "core/process/process_state.h"
 #include "foundation/text/local_encoding.h"
 
 namespace {
