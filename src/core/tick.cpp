@@ -3,13 +3,13 @@
 #include <utility>
 
 #include "core/client_messages.h"
-#include "core/hidden_window.h"
 #include "core/process/client_writer.h"
 #include "core/process/exit_cleanup.h"
 #include "core/process/process_state.h"
 #include "core/ui_commands.h"
 #include "dialogs/action_request_dialog.h"
 #include "dialogs/message_dialogs.h"
+#include "dialogs/x_application.h"
 
 namespace {
 

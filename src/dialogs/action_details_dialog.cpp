@@ -8,7 +8,6 @@
 #include "core/process/process_state.h"
 #include "core/process/ui_command.h"
 #include "dialogs/action_request_dialog.h"
-#include "dialogs/dialog_building.h"
 #include "dialogs/toolkit/callbacks.h"
 #include "dialogs/toolkit/dialog_shell.h"
 #include "dialogs/toolkit/read_only_text.h"

@@ -13,7 +13,6 @@
 #include "core/process/process_state.h"
 #include "core/process/ui_command.h"
 #include "dialogs/action_request_contents.h"
-#include "dialogs/dialog_building.h"
 #include "dialogs/snooze_choices.h"
 #include "dialogs/toolkit/callbacks.h"
 #include "dialogs/toolkit/dialog_shell.h"

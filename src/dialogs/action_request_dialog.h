@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dialogs/toolkit/widget.h"
+#include "dialogs/toolkit/widgets.h"
 #include "foundation/time/instant.h"
 
 // The main window: the pending actions, what they involve, and what the user can do about them. At most one exists at a

@@ -9,7 +9,6 @@
 #include <list>
 
 #include "core/process/process_state.h"
-#include "dialogs/dialog_building.h"
 #include "dialogs/toolkit/callbacks.h"
 #include "dialogs/toolkit/dialog_shell.h"
 #include "dialogs/toolkit/read_only_text.h"

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <string>
+#include <string_view>
+
 struct _XtAppStruct;
 
 // The X application: the display connection, the failure handlers and the main loop. Main thread only.
@@ -16,3 +19,20 @@ int InitXApp(int argc, char** argv, void (*tick)());
 // Passes ordinary toolkit warnings on to the handler that was installed before. The warning that no font set can be made
 // is fatal: it is reported to the client with error code 1, and the process ends with status 0.
 void OverrideWarningMsgHandler(_XtAppStruct* context);
+
+// Makes sure that the toolkit's default font set can be created on the display (X Logical Font Description, XLFD).
+//
+// A set that the resource database names and that can be created stays; so does an unset one while 12-point fonts of any
+// kind exist. Otherwise the lowest of the sets that can be made from the server's 12-point fonts is stored in the
+// display's resource database. Character sets missing from a font set are tolerated. Main thread, display open.
+void ConfigValidDefaultFontSet();
+
+// The pattern of the font set that a font name belongs to: its character set, after the 13th dash, replaced by any.
+// Empty for a name with fewer dashes.
+std::string FontSetPattern(std::string_view fontName);
+
+// Creates the hidden shell "QENClientUIHiddenWindow", realised and never mapped. A client message to its window whose
+// data begins with the four bytes "open", whatever the message's type and format, asks for the action request dialog:
+// so other programs on the display bring it back. It leads the windows of all dialogs (ICCCM 4.1.11). Main thread only,
+// once; without a display nothing is created.
+void CreateHiddenWindow();

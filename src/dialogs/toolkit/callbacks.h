@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include "dialogs/toolkit/widget.h"
+#include "dialogs/toolkit/widgets.h"
 
 union _XEvent;
 

@@ -1,7 +1,23 @@
 #pragma once
 
-#include "dialogs/toolkit/widget.h"
-#include "dialogs/toolkit/window_properties.h"
+#include "dialogs/toolkit/widgets.h"
+
+// What a window manager should know of a dialog's window (Extended Window Manager Hints, EWMH; ICCCM).
+struct WindowTraits {
+    // A dialog rather than a normal window.
+    bool dialog = true;
+    // The user has asked for it. Any other window comes up without taking the keyboard from what the user is doing.
+    bool asked_for = false;
+    // The shell that it belongs to and stays above, or null.
+    Widget over = nullptr;
+};
+
+// Sets _NET_WM_NAME, _NET_WM_PID, _NET_WM_WINDOW_TYPE, _NET_WM_USER_TIME and WM_TRANSIENT_FOR on a realised shell that is
+// not yet mapped. What the toolkit sets by itself it leaves alone. Main thread only.
+void SetWindowProperties(Widget shell, WindowTraits const& traits);
+
+// Sets _NET_WM_NAME, the title in UTF-8. `title` is in the locale's encoding.
+void SetUtf8Title(Widget shell, char const* title);
 
 union _XEvent;
 
@@ -37,3 +53,17 @@ void SystemMenuClose(Widget widget, _XEvent const& event);
 // Registers "SystemMenuClose", and "Nothing" for translations that swallow an event, users' own among them: once an
 // application, before its first dialog.
 void RegisterDialogActions();
+
+// The rule that all dialogs share: one that cannot be built is reported to the client by its name, with error code 2, and
+// the process ends with status 0. In practice it is a text that the locale's encoding cannot represent.
+[[noreturn]] void ReportUnbuildableDialog(char const* name);
+
+// Runs `build`; whatever it throws ends the process by that rule. Main thread only.
+template <class F>
+void BuildOrReport(char const* name, F&& build) {
+    try {
+        build();
+    } catch (...) {
+        ReportUnbuildableDialog(name);
+    }
+}
