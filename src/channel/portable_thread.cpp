@@ -6,6 +6,8 @@
 #include <thread>
 #include <vector>
 
+#include "foundation/base/never_destroyed.h"
+
 void MilliSecondSleep(unsigned milliseconds) {
     using namespace std::chrono;
     if (milliseconds >= 1000) std::this_thread::sleep_for(seconds(milliseconds / 1000));
@@ -13,7 +15,7 @@ void MilliSecondSleep(unsigned milliseconds) {
 }
 
 static std::vector<void (*)()>& Routines() {
-    static auto& routines = *new std::vector<void (*)()>;
+    static auto& routines = NeverDestroyed<std::vector<void (*)()>>();
     return routines;
 }
 
@@ -26,7 +28,7 @@ void DoThreadExitRoutines() {
 }
 
 std::atomic<bool> ThreadKiller::m_kill = false;
-UnixPlatform::Event& ThreadKiller::m_Event = *new UnixPlatform::Event;
+UnixPlatform::Event& ThreadKiller::m_Event = NeverDestroyed<UnixPlatform::Event>();
 
 using StartBlock = PortableThread::StartBlock;
 

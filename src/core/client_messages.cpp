@@ -6,6 +6,7 @@
 #include "dialogs/action_request_dialog.h"
 #include "dialogs/message_dialogs.h"
 #include "dialogs/quiet_mode_dialog.h"
+#include "foundation/base/never_destroyed.h"
 #include "messages/apply_initialization_info.h"
 #include "messages/client_requests.h"
 #include "xml/simple_xml.h"
@@ -16,7 +17,7 @@ using Batch = FiFoQueue<UIMessage>;
 
 // The messages behind the one that initialized the process, until the next call.
 Batch& DeferredMessages() {
-    static Batch& deferred = *new Batch;
+    static Batch& deferred = NeverDestroyed<Batch>();
     return deferred;
 }
 

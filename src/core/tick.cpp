@@ -13,9 +13,6 @@
 
 namespace {
 
-// In its last five minutes a forced action's dialog counts down, a refresh a tick.
-constexpr TimeInterval kCountdown = TimeInterval::Seconds(300);
-
 enum class Overdue { No, Soon, Yes };
 
 Overdue DeadlineOf(ActionRequest const& action, Instant now) {
@@ -23,7 +20,7 @@ Overdue DeadlineOf(ActionRequest const& action, Instant now) {
     auto deadline = action.Deadline();
     if (!deadline) return Overdue::No;
     if (now > *deadline) return Overdue::Yes;
-    return now + kCountdown > *deadline ? Overdue::Soon : Overdue::No;
+    return now + kNearDeadline > *deadline ? Overdue::Soon : Overdue::No;
 }
 
 // Takes without asking: a forced action does not wait for consent beyond its deadline, not even while its confirmation

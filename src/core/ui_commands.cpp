@@ -9,6 +9,7 @@
 #include "dialogs/action_details_dialog.h"
 #include "dialogs/action_request_dialog.h"
 #include "dialogs/confirmation_dialog.h"
+#include "foundation/base/never_destroyed.h"
 
 namespace {
 
@@ -22,7 +23,7 @@ struct Question {
 
 // Waits for its answer: from when it is put until the answer is carried out, which is in a later tick than the press.
 // Meanwhile no other is put, or the answer might count for one that nobody has read.
-std::optional<Question>& question = *new std::optional<Question>;
+std::optional<Question>& question = NeverDestroyed<std::optional<Question>>();
 
 // While a take-all is in progress, it comes next to the action at the pending list's cursor.
 bool take_all_in_progress = false;

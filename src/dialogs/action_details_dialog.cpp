@@ -12,6 +12,7 @@
 #include "dialogs/toolkit/dialog_shell.h"
 #include "dialogs/toolkit/read_only_text.h"
 #include "dialogs/toolkit/widgets.h"
+#include "foundation/base/never_destroyed.h"
 #include "foundation/text/local_encoding.h"
 #include "localisation/uformat.h"
 
@@ -21,7 +22,7 @@ Widget shell = nullptr;
 
 // Kept between dialogs.
 AutoNullTerminated<char>& Script() {
-    static auto& script = *new AutoNullTerminated<char>;
+    static auto& script = NeverDestroyed<AutoNullTerminated<char>>();
     return script;
 }
 

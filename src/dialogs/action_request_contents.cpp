@@ -12,7 +12,6 @@
 
 namespace {
 
-constexpr TimeInterval kTooLateToSnooze = TimeInterval::Seconds(300);
 constexpr char kSeparator[] = "  --  ";
 
 AutoNullTerminated<char> Joined(AutoNullTerminated<char> const& left, AutoNullTerminated<char> const& right) {
@@ -69,7 +68,7 @@ void DescribeOne(ActionRequestContents& contents, ActionRequest const& action) {
 
 // What the whole list decides, whichever row is selected.
 void Survey(ActionRequestContents& contents, PendingActions const& pending, bool snoozable) {
-    Instant const too_late = Instant::Now() + kTooLateToSnooze;
+    Instant const too_late = Instant::Now() + kNearDeadline;
     for (auto const& action : pending) {
         if (action.preview) contents.details_mapped = true;
         auto const deadline = action.Deadline();

@@ -19,6 +19,7 @@
 #include "dialogs/toolkit/list_pane.h"
 #include "dialogs/toolkit/read_only_text.h"
 #include "dialogs/toolkit/widgets.h"
+#include "foundation/base/never_destroyed.h"
 #include "foundation/text/local_encoding.h"
 #include "localisation/localized_strings.h"
 #include "localisation/uformat.h"
@@ -56,7 +57,7 @@ struct Dialog {
 };
 
 // Never destroyed: the rows that the widgets borrow must outlive them.
-Dialog& dialog = *new Dialog;
+Dialog& dialog = NeverDestroyed<Dialog>();
 
 unsigned long long const* SelectedID() {
     return dialog.selected_row < 0 ? nullptr : &dialog.ids[static_cast<std::size_t>(dialog.selected_row)];

@@ -13,7 +13,7 @@ void ActionRequestStore::RemoveAction(unsigned long long const& id) {
 
 void ActionRequestStore::UpdateActions(std::span<ActionRequest const> requests) {
     if (requests.empty()) return;
-    Instant const limit = Instant::Now() + TimeInterval::Seconds(300);
+    Instant const limit = Instant::Now() + kNearDeadline;
     for (auto const& request : requests) {
         ActionRequest& stored = requests_[request.id];
         stored = request;

@@ -13,6 +13,7 @@
 #include "dialogs/toolkit/dialog_shell.h"
 #include "dialogs/toolkit/read_only_text.h"
 #include "dialogs/toolkit/widgets.h"
+#include "foundation/base/never_destroyed.h"
 #include "foundation/text/local_encoding.h"
 #include "foundation/time/instant.h"
 #include "localisation/uformat.h"
@@ -33,7 +34,7 @@ struct MessageDialog {
 };
 
 // In opening order. Never destroyed: the process may exit from anywhere.
-std::list<MessageDialog>& dialogs = *new std::list<MessageDialog>;
+std::list<MessageDialog>& dialogs = NeverDestroyed<std::list<MessageDialog>>();
 
 AutoNullTerminated<char> MessageDialog::Title() const {
     if (request.is_completion_message) return ControlLiteral("Corvane notification:");

@@ -54,8 +54,6 @@ int SummaryRow(ActionFamily family, SummaryFacts const& facts) {
 
 namespace {
 
-constexpr TimeInterval kSoon = TimeInterval::Seconds(300);
-
 struct Sentence {
     FormatPlusArguments<0> format;
     bool has_deadline_text;
@@ -88,7 +86,7 @@ Family const& SentencesOf(ActionFamily family) {
 
 AutoUString<UTF8> Render(ActionFamily family, SummaryFacts facts, Instant deadline) {
     Instant const now = Instant::Now();
-    facts.soon = facts.has_deadline && deadline < now + kSoon;
+    facts.soon = facts.has_deadline && deadline < now + kNearDeadline;
     auto const& sentence = SentencesOf(family)[static_cast<std::size_t>(SummaryRow(family, facts))];
     if (!sentence.has_deadline_text) return MakeUString(sentence.format);
     auto text = FormattedDeadline(deadline, now, facts.forced, false);

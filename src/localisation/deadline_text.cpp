@@ -2,12 +2,11 @@
 
 #include "localisation/locale_text.h"
 #include "localisation/uformat.h"
+#include "messages/client_requests.h"
 
 namespace {
 
 using Text = AutoUString<UTF8>;
-
-constexpr long long kNowLimit = 5 * TimeInterval::kMinute;
 
 Text Fixed(char const* english) {
     return MakeUString(UFormat(english));
@@ -40,7 +39,7 @@ Text PhraseFor(long long remaining) {
     if (remaining > Interval::kHour)
         return Counted(RoundedHalfDown(remaining, Interval::kHour), "1 hour", "{hours} hours");
     long long const minutes = remaining / Interval::kMinute;
-    if (remaining > kNowLimit) return Counted(minutes, nullptr, "{minutes} minutes");
+    if (remaining > kNearDeadline.Microseconds()) return Counted(minutes, nullptr, "{minutes} minutes");
     return MinutesAndSeconds(minutes, remaining % Interval::kMinute / Interval::kSecond);
 }
 
@@ -58,7 +57,7 @@ Text FormattedDeadline(Instant const& deadline, Instant const& now, bool exact, 
 Text FormattedDeadline(TimeInterval const& remaining, bool exact, bool relative) {
     long long const left = remaining.Microseconds();
     if (left < 0) return PastPhrase(exact, relative);
-    if (left <= kNowLimit && !exact) return Fixed("Now");
+    if (left <= kNearDeadline.Microseconds() && !exact) return Fixed("Now");
     auto phrase = PhraseFor(left);
     return relative ? MakeUString(FormatPlusArguments<1>(UFormat("{time} from now"), phrase)) : std::move(phrase);
 }

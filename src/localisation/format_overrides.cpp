@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "foundation/base/const_data.h"
+#include "foundation/base/never_destroyed.h"
 
 // Calls visit(ConstData line) for each line of `text`, in order and without what ends it.
 //
@@ -63,6 +64,6 @@ UStringRef<UTF8> FormatOverrideContext::Override(UStringRef<UTF8> key, UStringRe
 }
 
 FormatOverrideContext& GlobalFormatOverrideContext() {
-    static auto& context = *new FormatOverrideContext;
+    static auto& context = NeverDestroyed<FormatOverrideContext>();
     return context;
 }

@@ -2,10 +2,12 @@
 
 #include <limits>
 
+#include "foundation/base/never_destroyed.h"
 #include "foundation/files/file_access.h"
 
-std::set<SharingPtr<FormatFile>>& m_formatFiles = *new std::set<SharingPtr<FormatFile>>;
-std::set<SharingPtr<FormatOverrideScope>>& m_formatOverrides = *new std::set<SharingPtr<FormatOverrideScope>>;
+std::set<SharingPtr<FormatFile>>& m_formatFiles = NeverDestroyed<std::set<SharingPtr<FormatFile>>>();
+std::set<SharingPtr<FormatOverrideScope>>& m_formatOverrides =
+    NeverDestroyed<std::set<SharingPtr<FormatOverrideScope>>>();
 
 namespace {
 

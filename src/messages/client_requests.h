@@ -7,6 +7,10 @@
 
 class XMLElement;
 
+// A deadline that is closer than this, or past, is near: a forced action counts down and is not shown closer, the user is
+// told to take the others now, and nothing can be put off any more.
+inline constexpr TimeInterval kNearDeadline = TimeInterval::Minutes(5);
+
 // One pending action that the client offers to the user: a value, cheap to copy since its texts are shared.
 struct ActionRequest {
     using Text = SharedUString<UTF8>;

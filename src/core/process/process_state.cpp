@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "channel/unix_pipe.h"
+#include "foundation/base/never_destroyed.h"
 
 std::size_t PendingActions::Find(unsigned long long id) const {
     auto found = std::find_if(begin(), end(), [id](ActionRequest const& request) { return request.id == id; });
@@ -31,11 +32,11 @@ void PendingActions::Clear() {
     take_all_cursor_ = 0;
 }
 
-UIMessageQueue& readQ = *new UIMessageQueue;
-UIMessageQueue& writeQ = *new UIMessageQueue;
+UIMessageQueue& readQ = NeverDestroyed<UIMessageQueue>();
+UIMessageQueue& writeQ = NeverDestroyed<UIMessageQueue>();
 UnixPipe* client_pipe = nullptr;
-PendingActions& actions = *new PendingActions;
-FileLocation& m_baseDirectory = *new FileLocation;
+PendingActions& actions = NeverDestroyed<PendingActions>();
+FileLocation& m_baseDirectory = NeverDestroyed<FileLocation>();
 Instant m_postponedTo{0};
 TimeInterval m_remindInterval{0};
 bool m_snoozable = true;

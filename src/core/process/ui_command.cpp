@@ -2,8 +2,10 @@
 
 #include <utility>
 
+#include "foundation/base/never_destroyed.h"
+
 // Never destroyed, so that it may be used at any moment of the exit.
-UICommandQueue& uiCommandQ = *new UICommandQueue;
+UICommandQueue& uiCommandQ = NeverDestroyed<UICommandQueue>();
 
 void UICommandQueue::WriteMessage(std::unique_ptr<UICommand> command) {
     AccessLocker locker(lock_);

@@ -15,12 +15,13 @@
 #include "core/process/process_state.h"
 #include "dialogs/toolkit/callbacks.h"
 #include "dialogs/toolkit/widgets.h"
+#include "foundation/base/never_destroyed.h"
 #include "foundation/text/local_encoding.h"
 
 namespace {
 
 // Those made before the hidden shell.
-std::vector<Widget>& leaderless = *new std::vector<Widget>;
+std::vector<Widget>& leaderless = NeverDestroyed<std::vector<Widget>>();
 
 // It has a procedure because the toolkit warns of actions that have none.
 void Nothing(Widget, XEvent const&) {}
