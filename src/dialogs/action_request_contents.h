@@ -21,6 +21,7 @@ struct ActionRequestContents {
     AutoNullTerminated<char> snooze_label;
 
     // Which controls are sensitive while the dialog is enabled.
+    bool action_list = true;
     bool take_all = false;
     bool take = false;
     bool cancel = false;

@@ -18,7 +18,7 @@
 #include "dialogs/message_dialogs.h"
 #include "dialogs/quiet_mode_dialog.h"
 #include "dialogs/toolkit/callbacks.h"
-#include "dialogs/toolkit/dialog_shell.h"
+#include "dialogs/toolkit/dialog_window.h"
 #include "dialogs/toolkit/list_pane.h"
 #include "dialogs/toolkit/read_only_text.h"
 #include "dialogs/toolkit/widgets.h"

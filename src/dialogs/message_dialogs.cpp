@@ -1,18 +1,11 @@
 #include "dialogs/message_dialogs.h"
 
-#include <X11/Intrinsic.h>
-#include <X11/StringDefs.h>
-#include <X11/Xaw/Command.h>
-#include <X11/Xaw/Form.h>
-
 #include <algorithm>
 #include <list>
 
 #include "core/process/process_state.h"
-#include "dialogs/toolkit/callbacks.h"
-#include "dialogs/toolkit/dialog_shell.h"
+#include "dialogs/toolkit/dialog_window.h"
 #include "dialogs/toolkit/read_only_text.h"
-#include "dialogs/toolkit/widgets.h"
 #include "foundation/base/never_destroyed.h"
 #include "foundation/text/local_encoding.h"
 #include "foundation/time/instant.h"
@@ -25,7 +18,7 @@ constexpr Instant kNever{0};
 struct MessageDialog {
     MessageRequest request;
     Instant expiry = kNever;
-    Widget shell = nullptr;  // Null while the message waits for the display.
+    DialogWindow window{"MessageDialog"};  // Not open while the message waits for the display.
     Widget text = nullptr;
 
     // Both in the locale's encoding.
@@ -50,45 +43,25 @@ AutoNullTerminated<char> MessageDialog::Message() const {
 template <class Matches>
 void RemoveFirst(Matches matches) {
     auto found = std::find_if(dialogs.begin(), dialogs.end(), matches);
-    if (found == dialogs.end()) return;
-    DestroyDialogShell(found->shell);
-    dialogs.erase(found);
-}
-
-void Dismiss(Widget shell) {
-    RemoveFirst([shell](MessageDialog const& dialog) { return dialog.shell == shell; });
-}
-
-void Build(MessageDialog& dialog) {
-    auto title = dialog.Title();
-    auto message = dialog.Message();
-    auto label = ControlLiteral("OK");
-
-    Widget shell = dialog.shell = CreateDialogShell("MessageDialog", title.c_str());
-    Widget form = Create(shell, "form", formWidgetClass);
-    Widget text = dialog.text =
-        CreateReadOnlyText(form, "actionmessage", message.c_str(), {{XtNwidth, 500}, {XtNheight, 100}});
-    Widget dismiss = Create(form, "dismiss", commandWidgetClass,
-                            {{XtNfromVert, text}, {XtNlabel, label.c_str()}, {XtNinternational, true}});
-    SetResources(dismiss, {{XtNhorizDistance, WidthOf(text) + BorderWidthOf(text) - WidthOf(dismiss)}});
-    AnchorInForm(text, Anchor::AllSides);
-    AnchorInForm(dismiss, Anchor::BottomRight);
-    OnPressed(dismiss, [shell] { Dismiss(shell); });
-    SetSensitive(text, false);
-
-    RealizeDialogShell(shell);
-    MakeScrollable(text);
-    PresentDialogShell(shell, {});
+    if (found != dialogs.end()) dialogs.erase(found);
 }
 
 void Open(MessageDialog& dialog) {
-    BuildOrReport("MessageDialog", [&] { Build(dialog); });
+    dialog.window.Build([&dialog] {
+        auto& window = dialog.window;
+        window.Open(dialog.Title().c_str());
+        dialog.text = window.AddText("actionmessage", dialog.Message().c_str());
+        auto const dismiss = [&dialog] { RemoveFirst([&](auto const& open) { return &open == &dialog; }); };
+        Widget button = window.AddButton("dismiss", ControlLiteral("OK").c_str(), dismiss, {.below = dialog.text});
+        window.AlignRight(button, dialog.text);
+        window.Present({});
+    });
 }
 
 void Refresh(MessageDialog& dialog) {
     auto title = dialog.Title();
     auto message = dialog.Message();
-    SetDialogTitle(dialog.shell, title.c_str());
+    dialog.window.SetTitle(title.c_str());
     SetText(dialog.text, message.c_str());
 }
 
@@ -101,11 +74,10 @@ Instant ExpiryOf(MessageRequest const& request) {
 void ShowMessageDialog(MessageRequest const& request) {
     auto dialog = std::find_if(dialogs.begin(), dialogs.end(),
                                [&](MessageDialog const& open) { return open.request.id == request.id; });
-    if (dialog == dialogs.end()) dialog = dialogs.insert(dialogs.end(), MessageDialog());
+    if (dialog == dialogs.end()) dialog = dialogs.emplace(dialogs.end());
     dialog->request = request;
     dialog->expiry = ExpiryOf(request);
-    if (!display) return;
-    if (dialog->shell)
+    if (dialog->window.IsOpen())
         Refresh(*dialog);
     else
         Open(*dialog);
@@ -119,12 +91,10 @@ void RemoveTimedoutMessageDialogs() {
     Instant const now = Instant::Now();
     for (auto dialog = dialogs.begin(); dialog != dialogs.end();) {
         bool const over = dialog->expiry != kNever && dialog->expiry <= now;
-        if (over) DestroyDialogShell(dialog->shell);
         dialog = over ? dialogs.erase(dialog) : std::next(dialog);
     }
 }
 
 void OpenWaitingMessageDialogs() {
-    for (auto& dialog : dialogs)
-        if (!dialog.shell) Open(dialog);
+    for (auto& dialog : dialogs) Open(dialog);
 }

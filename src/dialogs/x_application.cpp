@@ -17,7 +17,7 @@
 #include "core/process/process_state.h"
 #include "core/process/ui_command.h"
 #include "dialogs/toolkit/callbacks.h"
-#include "dialogs/toolkit/dialog_shell.h"
+#include "dialogs/toolkit/dialog_window.h"
 #include "localisation/translation_files.h"
 
 namespace {
@@ -172,5 +172,5 @@ void CreateHiddenWindow() {
                                    32, XtNheight, 32, XtNmappedWhenManaged, False, nullptr);
     XtRealizeWidget(qenHidden);
     OnNonmaskableEvent(qenHidden, HiddenWindowEventHandler);
-    LeadDialogShells();
+    LeadDialogWindows();
 }

@@ -5,7 +5,7 @@
 #include <clocale>
 
 #include "core/process/process_state.h"
-#include "dialogs/toolkit/dialog_shell.h"
+#include "dialogs/toolkit/dialog_window.h"
 #include "tools/virtual_display.h"
 
 // Connects the dialogs, in process, to a virtual display that lasts as long as the process; once, however often it is

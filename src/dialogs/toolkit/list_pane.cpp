@@ -2,7 +2,6 @@
 
 #include <X11/IntrinsicP.h>
 #include <X11/StringDefs.h>
-#include <X11/Xaw/List.h>
 #include <X11/Xaw/ListP.h>
 #include <X11/Xaw/Viewport.h>
 
@@ -11,7 +10,6 @@
 #include <utility>
 
 #include "dialogs/toolkit/read_only_text.h"
-#include "dialogs/toolkit/widgets.h"
 
 namespace {
 
@@ -23,41 +21,12 @@ std::size_t MostRows(Widget list) {
 
 }  // namespace
 
-void ListRows::Show(Widget list, std::vector<AutoNullTerminated<char>> rows) {
-    rows.resize(std::min(rows.size(), MostRows(list)));
-    std::vector<char const*> array;
-    array.reserve(rows.size() + 1);
-    for (auto const& row : rows) array.push_back(row.c_str());
-    array.push_back(nullptr);
-
-    XtUnmanageChild(list);
-    XawListChange(list, array.data(), static_cast<int>(rows.size()), 0, True);
-    XtManageChild(list);
-    rows_ = std::move(rows);
-    array_ = std::move(array);
-}
-
-bool ListRows::AreSameAs(std::vector<AutoNullTerminated<char>> const& rows) const {
-    return std::equal(rows_.begin(), rows_.end(), rows.begin(), rows.end(),
-                      [](auto const& a, auto const& b) { return std::strcmp(a.c_str(), b.c_str()) == 0; });
-}
-
-void HighlightRow(Widget list, int row, std::size_t count) {
-    if (row >= 0 && std::cmp_less(row, count)) XawListHighlight(list, row);
-}
-
-int HighlightedRow(Widget list) {
-    XawListReturnStruct* current = XawListShowCurrent(list);
-    int row = current->list_index;
-    XtFree(reinterpret_cast<char*>(current));
-    return row == XAW_LIST_NONE ? -1 : row;
-}
-
-void ListPane::Create(Widget parent, char const* name, int width, int height, Arguments arguments) {
+void ListPane::Create(DialogWindow const& window, char const* name, int width, int height, Widget below) {
     scrollbar_ = nullptr;
     fitted_width_ = width;
-    viewport_ = ::Create(parent, name, viewportWidgetClass,
-                         {{XtNwidth, width}, {XtNheight, height}, {XtNallowVert, true}}, arguments);
+    viewport_ = ::Create(window.Form(), name, viewportWidgetClass,
+                         {{XtNwidth, width}, {XtNheight, height}, {XtNallowVert, true}, {XtNfromVert, below}});
+    AnchorInForm(viewport_, Anchor::TopLeft);
     // A list that is given no array shows its own name as a row, and divides by the width of its one column: no user's
     // resources may take the array or the width from it.
     static char const* const no_rows[] = {nullptr};
@@ -69,22 +38,41 @@ void ListPane::Create(Widget parent, char const* name, int width, int height, Ar
                       {XtNlist, no_rows},
                       {XtNnumberStrings, 0},
                       {XtNcolumnSpacing, 6}});
-    ShowRows({});
+    rows_.clear();
 }
 
 // Managed again, a realised list's window is put at the top of the viewport behind the toolkit's back: it is moved there
 // before, so that the toolkit agrees, and to where it was afterwards.
-void ListPane::ShowRows(std::vector<AutoNullTerminated<char>> rows) {
-    if (!XtIsRealized(list_)) return rows_.Show(list_, std::move(rows));
+void ListPane::ShowRows(Rows rows) {
+    if (!XtIsRealized(list_)) return HandOver(std::move(rows));
     Position top = 0;
     XtVaGetValues(list_, XtNy, &top, nullptr);
     XtMoveWidget(list_, 0, 0);
-    rows_.Show(list_, std::move(rows));
+    HandOver(std::move(rows));
     XawViewportSetCoordinates(viewport_, 0, static_cast<Position>(-top));
 }
 
+void ListPane::HandOver(Rows rows) {
+    rows.resize(std::min(rows.size(), MostRows(list_)));
+    std::vector<char const*> array;
+    array.reserve(rows.size() + 1);
+    for (auto const& row : rows) array.push_back(row.c_str());
+    array.push_back(nullptr);
+
+    XtUnmanageChild(list_);
+    XawListChange(list_, array.data(), static_cast<int>(rows.size()), 0, True);
+    XtManageChild(list_);
+    rows_ = std::move(rows);
+    array_ = std::move(array);
+}
+
+bool ListPane::Shows(Rows const& rows) const {
+    return std::equal(rows_.begin(), rows_.end(), rows.begin(), rows.end(),
+                      [](auto const& a, auto const& b) { return std::strcmp(a.c_str(), b.c_str()) == 0; });
+}
+
 void ListPane::Highlight(int row) {
-    HighlightRow(list_, row, rows_.Count());
+    if (row >= 0 && std::cmp_less(row, rows_.size())) XawListHighlight(list_, row);
     ScrollSelectedItemIntoView(viewport_, list_);
 }
 
@@ -96,4 +84,25 @@ void ListPane::Fit(int width) {
     scrollbar_ = scrollbar;
     fitted_width_ = wanted;
     Rewiden(viewport_, wanted);
+}
+
+int HighlightedRow(Widget list) {
+    XawListReturnStruct* current = XawListShowCurrent(list);
+    int row = current->list_index;
+    XtFree(reinterpret_cast<char*>(current));
+    return row == XAW_LIST_NONE ? -1 : row;
+}
+
+Widget VerticalScrollbar(Widget viewport) {
+    return XtNameToWidget(viewport, "vertical");
+}
+
+void ScrollSelectedItemIntoView(Widget viewport, Widget list) {
+    int row = HighlightedRow(list);
+    Widget bar = VerticalScrollbar(viewport);
+    int count = 0;
+    XtVaGetValues(list, XtNnumberStrings, &count, nullptr);
+    if (row < 0 || !bar || count <= 0) return;
+    float top = static_cast<float>(row) / static_cast<float>(count);
+    XtCallCallbacks(bar, XtNjumpProc, &top);
 }

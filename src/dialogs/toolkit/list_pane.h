@@ -1,55 +1,38 @@
 #pragma once
 
-#include <cstddef>
+#include <functional>
 #include <vector>
 
-#include "dialogs/toolkit/widgets.h"
+#include "dialogs/toolkit/dialog_window.h"
 #include "foundation/text/auto_ustring.h"
-
-// The rows of one Athena list.
-//
-// The list widget keeps pointers to its row texts and to their array and copies neither, so they live here: this object
-// must outlive what the list shows, and new rows are complete before the old ones go. Main thread only.
-class ListRows {
-  public:
-    // Hands `rows` to the list in place of whatever it shows, unmanaging it meanwhile so that it is laid out once.
-    // Nothing is highlighted afterwards. Of very many rows the last are left out: positions in a window end at 32,767
-    // pixels, and a list's size is kept in 16 bits and would be none at all for certain numbers of rows.
-    void Show(Widget list, std::vector<AutoNullTerminated<char>> rows);
-
-    std::size_t Count() const { return rows_.size(); }
-    // Whether the list shows exactly these rows, none left out.
-    bool AreSameAs(std::vector<AutoNullTerminated<char>> const& rows) const;
-
-  private:
-    std::vector<AutoNullTerminated<char>> rows_;
-    std::vector<char const*> array_;
-};
-
-// Highlights `row` if it is one of the list's `count` rows: the widget itself does not check, and a highlight beyond the
-// rows makes it read beyond its array.
-void HighlightRow(Widget list, int row, std::size_t count);
-
-// The highlighted row, or -1.
-int HighlightedRow(Widget list);
 
 // A one-column list in a viewport that scrolls it. Main thread only.
 //
 // The viewport's scroll bar comes and goes with the number of rows. It stands beside the rows, not over them: while it
-// is there the viewport is wider by its width. The rows outlive the widgets, so a pane may be created again after its
-// dialog was destroyed.
+// is there the viewport is wider by its width.
+//
+// The list widget keeps pointers to its row texts and to their array and copies neither: they live here, new ones are
+// complete before the old ones go, and all outlive the widgets. So a pane may be created again after its dialog was
+// destroyed.
 class ListPane {
   public:
-    // Makes the two widgets; `width` and `height` are the rows' part in pixels, `arguments` place the viewport.
-    void Create(Widget parent, char const* name, int width, int height, Arguments arguments);
+    using Rows = std::vector<AutoNullTerminated<char>>;
+
+    // Makes the two widgets, without rows; `width` and `height` are the rows' part in pixels.
+    void Create(DialogWindow const& window, char const* name, int width, int height, Widget below);
 
     Widget Viewport() const { return viewport_; }
     Widget List() const { return list_; }
 
-    // Shows these rows. Nothing is highlighted afterwards.
-    void ShowRows(std::vector<AutoNullTerminated<char>> rows);
-    bool Shows(std::vector<AutoNullTerminated<char>> const& rows) const { return rows_.AreSameAs(rows); }
-    // Highlights a row and scrolls it into view; anything but one of the rows is ignored.
+    // Shows these rows, laid out once, in place of whatever is there. Nothing is highlighted afterwards. Of very many rows
+    // the last are left out: positions in a window end at 32,767 pixels, and a list's size is kept in 16 bits and would
+    // be none at all for certain numbers of rows.
+    void ShowRows(Rows rows);
+    // Whether the list shows exactly these rows, none left out.
+    bool Shows(Rows const& rows) const;
+
+    // Highlights a row and scrolls it into view; anything but one of the rows is ignored: the widget itself does not
+    // check, and a highlight beyond the rows makes it read beyond its array.
     void Highlight(int row);
 
     // Gives the rows' part a new width and takes account of a scroll bar that has come or gone. Once the widgets are
@@ -57,9 +40,23 @@ class ListPane {
     void Fit(int width);
 
   private:
+    void HandOver(Rows rows);
+
     Widget viewport_ = nullptr;
     Widget list_ = nullptr;
     Widget scrollbar_ = nullptr;  // The one that has been fitted, if it is still there.
     int fitted_width_ = 0;
-    ListRows rows_;
+    Rows rows_;
+    std::vector<char const*> array_;
 };
+
+// The highlighted row of a list, or -1.
+int HighlightedRow(Widget list);
+
+// The vertical scroll bar of a viewport, or null: it exists only while the viewport is realised and its child is taller
+// than it.
+Widget VerticalScrollbar(Widget viewport);
+
+// Scrolls so that the highlighted row of `list`, if there is one, stands at the top of `viewport`, as far as the bar can
+// go.
+void ScrollSelectedItemIntoView(Widget viewport, Widget list);

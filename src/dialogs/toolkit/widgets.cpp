@@ -6,9 +6,11 @@
 
 #include <algorithm>
 #include <cstring>
+#include <map>
 #include <vector>
 
 #include "core/process/process_state.h"
+#include "foundation/base/never_destroyed.h"
 
 namespace {
 
@@ -23,6 +25,21 @@ int DimensionOf(Widget widget, char const* name) {
     Dimension value = 0;
     XtVaGetValues(widget, name, &value, nullptr);
     return value;
+}
+
+// How wide the widest line of the label's text is in its font.
+int TextWidth(Widget label) {
+    XFontSet fonts = nullptr;
+    char const* text = "";
+    XtVaGetValues(label, XtNfontSet, &fonts, XtNlabel, &text, nullptr);
+    int widest = 0;
+    for (std::size_t length; fonts && *text; text += length + (text[length] ? 1 : 0)) {
+        length = std::strcspn(text, "\n");
+        // Xlib counts in int: beyond this many bytes only "very wide" matters.
+        int const measured = static_cast<int>(std::min<std::size_t>(length, 1 << 16));
+        widest = std::max(widest, XmbTextEscapement(fonts, text, measured));
+    }
+    return widest;
 }
 
 }  // namespace
@@ -51,21 +68,23 @@ int ClampedSize(int pixels) {
     return std::clamp(pixels, 1, 32767);
 }
 
-int TextWidth(Widget label, char const* text) {
-    XFontSet fonts = nullptr;
-    XtVaGetValues(label, XtNfontSet, &fonts, nullptr);
-    int widest = 0;
-    for (std::size_t length; fonts && *text; text += length + (text[length] ? 1 : 0)) {
-        length = std::strcspn(text, "\n");
-        // Xlib counts in int: beyond this many bytes only "very wide" matters.
-        int const measured = static_cast<int>(std::min<std::size_t>(length, 1 << 16));
-        widest = std::max(widest, XmbTextEscapement(fonts, text, measured));
-    }
-    return widest;
-}
-
 int DisplayWidthInPixels() {
     return DisplayWidth(display, DefaultScreen(display));
+}
+
+void SetLabel(Widget label, char const* text) {
+    SetResources(label, {{XtNlabel, text}});
+}
+
+void PutAt(Widget child, int left) {
+    SetResources(child, {{XtNhorizDistance, left}});
+}
+
+void FitToDisplay(Widget label) {
+    constexpr int margins = 16;
+    int const limit = DisplayWidthInPixels() - margins;
+    int const wanted = TextWidth(label);
+    if (WidthOf(label) == 0 || wanted > limit) Rewiden(label, std::min(wanted, limit));
 }
 
 void Rewiden(Widget widget, int width) {
@@ -80,6 +99,14 @@ void AnchorInForm(Widget child, Anchor anchor) {
                          {XtNleft, right ? XawChainRight : XawChainLeft},
                          {XtNbottom, left ? XawChainTop : XawChainBottom},
                          {XtNright, left ? XawChainLeft : XawChainRight}});
+}
+
+// A table is parsed once: the toolkit never frees one.
+void OverrideTranslations(Widget widget, char const* table) {
+    static auto& parsed = NeverDestroyed<std::map<char const*, XtTranslations>>();
+    auto& translations = parsed[table];
+    if (!translations) translations = XtParseTranslationTable(table);
+    XtOverrideTranslations(widget, translations);
 }
 
 void SetSensitive(Widget widget, bool sensitive) {

@@ -13,7 +13,7 @@ using WidgetClass = _WidgetClassRec*;
 //
 // The constructors admit exactly the kinds of value that the resources of this program's widgets hold; any other type
 // does not compile. A string is borrowed for the call: labels, titles and texts are copied by their widgets, a list's
-// rows are not (see list_rows.h).
+// rows are not (see ListRows).
 class Argument {
   public:
     // Pixels, counts and positions. The toolkit keeps sizes in 16 bits: see ClampedSize.
@@ -55,11 +55,16 @@ int BorderWidthOf(Widget widget);
 // `pixels` within what a size of the X protocol holds: 1 to 32,767.
 int ClampedSize(int pixels);
 
-// How wide the widest line of `text`, in the locale's encoding, is in an international label's font: right also where the
-// label's own size has wrapped.
-int TextWidth(Widget label, char const* text);
-
 int DisplayWidthInPixels();
+
+void SetLabel(Widget label, char const* text);
+
+// Puts a form's child so many pixels from the form's left edge.
+void PutAt(Widget child, int left);
+
+// Makes an international label no wider than the display has room for, and as wide as its text where its own size has
+// wrapped around 16 bits or is none.
+void FitToDisplay(Widget label);
 
 // Gives a managed widget a new width behind its parent's back and lets the parent lay it out again.
 void Rewiden(Widget widget, int width);
@@ -69,6 +74,9 @@ void Rewiden(Widget widget, int width);
 // buttons and gaps as well.
 enum class Anchor { TopLeft, AllSides, BottomRight };
 void AnchorInForm(Widget child, Anchor anchor);
+
+// Puts the translations, a table in a literal, before those that the widget has.
+void OverrideTranslations(Widget widget, char const* table);
 
 void SetSensitive(Widget widget, bool sensitive);
 
