@@ -85,8 +85,8 @@ void RebuildRows() {
 }
 
 // The user's choice goes with each refresh: meant, the proposal is what counts until snoozing is pressed.
-void RebuildChoices(bool anyDeadline) {
-    dialog.choices = MakeSnoozeChoices(anyDeadline);
+void RebuildChoices(bool any_deadline) {
+    dialog.choices = MakeSnoozeChoices(any_deadline);
     std::vector<AutoNullTerminated<char>> rows;
     for (auto const& choice : dialog.choices) rows.push_back(MakeLocalString<UTF8>(choice.label));
     dialog.selected_choice = DefaultSnoozeRow(dialog.choices, dialog.default_interval);
@@ -166,9 +166,9 @@ void Build() {
 
 }  // namespace
 
-void ShowActionRequestDialog(bool, TimeInterval const& remindInterval, bool snoozable) {
+void ShowActionRequestDialog(bool, TimeInterval const& remind_interval, bool snoozable) {
     if (!display || dialog.window.IsOpen()) return;
-    dialog.default_interval = remindInterval;
+    dialog.default_interval = remind_interval;
     dialog.snoozable = snoozable;
     dialog.window.Build(Build);
 }

@@ -10,9 +10,9 @@
 // The selected row is an index: it stays when the dialog is hidden and shown again and when rows are removed, and may
 // come to mean another action. That is meant; an index beyond the rows becomes none.
 
-// Builds and shows the dialog; while it stands, nothing changes. `remindInterval` is proposed for snoozing, `snoozable`
+// Builds and shows the dialog; while it stands, nothing changes. `remind_interval` is proposed for snoozing, `snoozable`
 // tells whether the user may snooze at all. The first argument is unused.
-void ShowActionRequestDialog(bool, TimeInterval const& remindInterval, bool snoozable);
+void ShowActionRequestDialog(bool, TimeInterval const& remind_interval, bool snoozable);
 
 // Destroys the dialog.
 void HideActionRequestDialog();

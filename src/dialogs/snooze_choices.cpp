@@ -43,9 +43,9 @@ unsigned long long Distance(long long a, long long b) {
 
 }  // namespace
 
-std::vector<SnoozeChoice> MakeSnoozeChoices(bool anyDeadline) {
+std::vector<SnoozeChoice> MakeSnoozeChoices(bool any_deadline) {
     std::vector<SnoozeChoice> choices;
-    for (auto const& choice : std::span(kChoices).subspan(anyDeadline ? 0 : kBeforeDeadline))
+    for (auto const& choice : std::span(kChoices).subspan(any_deadline ? 0 : kBeforeDeadline))
         choices.push_back({MakeUString(UFormat(choice.label)), choice.minutes});
     return choices;
 }

@@ -14,7 +14,7 @@ struct SnoozeChoice {
 
 // The choices in display order, translated; those before the deadline only if there is one. None is withheld because it
 // would end after the deadline.
-std::vector<SnoozeChoice> MakeSnoozeChoices(bool anyDeadline);
+std::vector<SnoozeChoice> MakeSnoozeChoices(bool any_deadline);
 
 // The row that is proposed for the interval: the search goes down the rows and stops at the first that is no closer than
 // the one before it. Meant: the rows ascend, so this is the closest, the earlier of two equally close. `choices` must not

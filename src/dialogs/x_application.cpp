@@ -6,7 +6,7 @@
 #include <X11/Xresource.h>
 
 #include <clocale>
-#include <memory>
+#include <cstdio>
 #include <optional>
 #include <set>
 #include <string>
@@ -21,6 +21,69 @@
 #include "localisation/translation_files.h"
 
 namespace {
+
+// ---- What can fail at any moment. The handlers run inside frames of Xlib and Xt, so nothing is thrown through them.
+
+XtErrorMsgHandler defaultWarningMsgHandler = nullptr;
+
+[[noreturn]] void ExitWith(char const* kind, char const* text) noexcept {
+    char reason[2048];
+    std::snprintf(reason, sizeof reason, "%s: %s", kind, text);
+    ExitCleanup(-1, reason);
+}
+
+int X_ErrorHandler(Display* failed, XErrorEvent* event) {
+    char text[2048] = "";
+    XGetErrorText(failed, event->error_code, text, sizeof text);
+    ExitWith("XError", *text ? text : "Unknown XError");
+}
+
+int X_IOErrorHandler(Display*) {
+    ExitCleanup(0, "CLOSED");
+}
+
+// Clang takes only what never returns for the toolkit's kind of handler.
+_X_NORETURN void Xt_ErrorHandler(String message) {
+    ExitWith("XtError", message);
+}
+
+[[noreturn]] void ReportMissingFont(char const* name, char const* warning_class) {
+    Guarded([&] {
+        Stringy text = name;
+        if (warning_class) text.append(" (").append(warning_class).append(")");
+        ClientUIErrorMessage error(ClientUIErrorMessage::ErrorCode::ToolkitWarning, text);
+        SendErrorToClient(error);
+    });
+    ExitCleanup(0, name);
+}
+
+void WarningMsgHandler(String name, String type, String warning_class, String message, String* params,
+                       Cardinal* count) {
+    if (std::string_view(name) == "noFont") ReportMissingFont(name, warning_class);
+    if (defaultWarningMsgHandler) defaultWarningMsgHandler(name, type, warning_class, message, params, count);
+}
+
+// ---- The display
+
+void OpenDisplay(int argc, char** argv) {
+    if (international) XtSetLanguageProc(nullptr, nullptr, nullptr);
+    XtToolkitInitialize();
+    app_context = XtCreateApplicationContext();
+    OverrideWarningMsgHandler(app_context);
+    display = XtOpenDisplay(app_context, nullptr, nullptr, "XQENClientUI", nullptr, 0, &argc, argv);
+    if (!display) ExitCleanup(-1, "Error: failed XtOpenDisplay");
+}
+
+void DropTranslationsInCLocale() {
+    if (!international) return;
+    char const* locale = std::setlocale(LC_CTYPE, nullptr);
+    std::string_view name = locale ? locale : "";
+    if (!name.empty() && name != "C" && name != "POSIX") return;
+    international = false;
+    DropTranslations();
+}
+
+// ---- The default font set
 
 // The height of the font set's largest logical extent in pixels, or null when no font set can be created.
 std::optional<int> HeightOfFontSet(char const* pattern) {
@@ -51,6 +114,17 @@ struct FontNames {
     char** names;
 };
 
+// The pattern of the font set that a font name belongs to: its character set, after the 13th dash, replaced by any. Empty
+// for a name with fewer dashes.
+std::string FontSetPattern(std::string_view font_name) {
+    std::size_t dash = std::string_view::npos;
+    for (int i = 0; i < 13; ++i) {
+        dash = font_name.find('-', dash + 1);
+        if (dash == std::string_view::npos) return {};
+    }
+    return std::string(font_name.substr(0, dash + 1)) + "*,*";
+}
+
 std::string LowestFontSet() {
     FontNames fonts("-*-*-*-r-*-*-*-120-*-*-*-*");
     std::set<std::string> seen;
@@ -67,80 +141,14 @@ std::string LowestFontSet() {
     return winner;
 }
 
-}  // namespace
+// ---- The hidden window
 
-std::string FontSetPattern(std::string_view fontName) {
-    std::size_t dash = std::string_view::npos;
-    for (int i = 0; i < 13; ++i) {
-        dash = fontName.find('-', dash + 1);
-        if (dash == std::string_view::npos) return {};
-    }
-    return std::string(fontName.substr(0, dash + 1)) + "*,*";
-}
-
-void ConfigValidDefaultFontSet() {
-    if (ConfiguredFontSetWorks() || HeightOfFontSet("-*-*-*-R-*-*-*-120-*-*-*-*,*")) return;
-    std::string winner = LowestFontSet();
-    if (winner.empty()) return;
-    XrmDatabase database = XtDatabase(display);
-    XrmPutStringResource(&database, "XtDefaultFontSet", winner.c_str());
-}
-
-namespace {
-
-XtErrorMsgHandler defaultWarningMsgHandler = nullptr;
-
-int X_ErrorHandler(Display* failed, XErrorEvent* event) {
-    char text[2048] = "";
-    XGetErrorText(failed, event->error_code, text, sizeof text);
-    ExitCleanup(-1, (std::string("XError: ") + (*text ? text : "Unknown XError")).c_str());
-}
-
-int X_IOErrorHandler(Display*) {
-    ExitCleanup(0, "CLOSED");
-}
-
-// Clang takes only what never returns for the toolkit's kind of handler.
-_X_NORETURN void Xt_ErrorHandler(String message) {
-    ExitCleanup(-1, (std::string("XtError: ") + message).c_str());
-}
-
-void ReportMissingFont(char const* name, char const* warningClass) {
-    std::string text = name;
-    if (warningClass) text.append(" (").append(warningClass).append(")");
-    ClientUIErrorMessage error(ClientUIErrorMessage::ErrorCode::ToolkitWarning, text);
-    SendErrorToClient(error);
-    ExitCleanup(0, text.c_str());
-}
-
-void WarningMsgHandler(String name, String type, String warningClass, String message, String* params, Cardinal* count) {
-    if (std::string_view(name) == "noFont") ReportMissingFont(name, warningClass);
-    if (defaultWarningMsgHandler) defaultWarningMsgHandler(name, type, warningClass, message, params, count);
-}
-
-void OpenDisplay(int argc, char** argv) {
-    if (international) XtSetLanguageProc(nullptr, nullptr, nullptr);
-    XtToolkitInitialize();
-    app_context = XtCreateApplicationContext();
-    OverrideWarningMsgHandler(app_context);
-    display = XtOpenDisplay(app_context, nullptr, nullptr, "XQENClientUI", nullptr, 0, &argc, argv);
-    if (!display) ExitCleanup(-1, "Error: failed XtOpenDisplay");
-}
-
-void DropTranslationsInCLocale() {
-    if (!international) return;
-    char const* locale = std::setlocale(LC_CTYPE, nullptr);
-    std::string_view name = locale ? locale : "";
-    if (!name.empty() && name != "C" && name != "POSIX") return;
-    international = false;
-    DropTranslations();
+void HiddenWindowEventHandler(XEvent const& event) {
+    if (event.type != ClientMessage || std::string_view(event.xclient.data.b, 4) != "open") return;
+    QueueCommand(UICommandType::Show, 0, 0, 0);
 }
 
 }  // namespace
-
-void OverrideWarningMsgHandler(XtAppContext context) {
-    defaultWarningMsgHandler = XtAppSetWarningMsgHandler(context, WarningMsgHandler);
-}
 
 int InitXApp(int argc, char** argv, void (*tick)()) try {
     XSetErrorHandler(X_ErrorHandler);
@@ -157,19 +165,22 @@ int InitXApp(int argc, char** argv, void (*tick)()) try {
     return 0;
 }
 
-namespace {
-
-void HiddenWindowEventHandler(XEvent const& event) {
-    if (event.type != ClientMessage || std::string_view(event.xclient.data.b, 4) != "open") return;
-    QueueCommand(UICommandType::Show, 0, 0, 0);
+void OverrideWarningMsgHandler(XtAppContext context) {
+    defaultWarningMsgHandler = XtAppSetWarningMsgHandler(context, WarningMsgHandler);
 }
 
-}  // namespace
+void ConfigValidDefaultFontSet() {
+    if (ConfiguredFontSetWorks() || HeightOfFontSet("-*-*-*-R-*-*-*-120-*-*-*-*,*")) return;
+    std::string winner = LowestFontSet();
+    if (winner.empty()) return;
+    XrmDatabase database = XtDatabase(display);
+    XrmPutStringResource(&database, "XtDefaultFontSet", winner.c_str());
+}
 
 void CreateHiddenWindow() {
     if (!display) return;
-    qenHidden = XtVaAppCreateShell("QENClientUIHiddenWindow", nullptr, applicationShellWidgetClass, display, XtNwidth,
-                                   32, XtNheight, 32, XtNmappedWhenManaged, False, nullptr);
+    qenHidden = CreateShell("QENClientUIHiddenWindow", nullptr,
+                            {{XtNwidth, 32}, {XtNheight, 32}, {XtNmappedWhenManaged, false}});
     XtRealizeWidget(qenHidden);
     OnNonmaskableEvent(qenHidden, HiddenWindowEventHandler);
     LeadDialogWindows();

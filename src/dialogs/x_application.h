@@ -1,8 +1,5 @@
 #pragma once
 
-#include <string>
-#include <string_view>
-
 struct _XtAppStruct;
 
 // The X application: the display connection, the failure handlers and the main loop. Main thread only.
@@ -26,10 +23,6 @@ void OverrideWarningMsgHandler(_XtAppStruct* context);
 // kind exist. Otherwise the lowest of the sets that can be made from the server's 12-point fonts is stored in the
 // display's resource database. Character sets missing from a font set are tolerated. Main thread, display open.
 void ConfigValidDefaultFontSet();
-
-// The pattern of the font set that a font name belongs to: its character set, after the 13th dash, replaced by any.
-// Empty for a name with fewer dashes.
-std::string FontSetPattern(std::string_view fontName);
 
 // Creates the hidden shell "QENClientUIHiddenWindow", realised and never mapped. A client message to its window whose
 // data begins with the four bytes "open", whatever the message's type and format, asks for the action request dialog:

@@ -11,17 +11,14 @@
 
 namespace {
 
-// Hands `closure` to the widget, which frees it when it is destroyed.
-template <class Closure>
-Closure* OwnedBy(Widget widget, std::unique_ptr<Closure> closure) {
-    auto drop = [](Widget, XtPointer data, XtPointer) { delete static_cast<Closure*>(data); };
-    XtAddCallback(widget, XtNdestroyCallback, drop, closure.get());
-    return closure.release();
-}
-
+// The body as what the toolkit hands to a callback, owned by the widget, which frees it when it is destroyed.
 template <class... Values>
-auto* Closure(Widget widget, std::function<void(Values...)> body) {
-    return OwnedBy(widget, std::make_unique<std::function<void(Values...)>>(std::move(body)));
+auto* OwnedBy(Widget widget, std::function<void(Values...)> body) {
+    using Body = std::function<void(Values...)>;
+    auto owned = std::make_unique<Body>(std::move(body));
+    auto drop = [](Widget, XtPointer data, XtPointer) { delete static_cast<Body*>(data); };
+    XtAddCallback(widget, XtNdestroyCallback, drop, owned.get());
+    return owned.release();
 }
 
 struct Repetition {
@@ -58,7 +55,7 @@ void RunOverdue(XtPointer data, int*, XtInputId*) {
 
 void OnPressed(Widget button, std::function<void()> body) {
     auto call = [](Widget, XtPointer data, XtPointer) { Guarded(*static_cast<std::function<void()>*>(data)); };
-    XtAddCallback(button, XtNcallback, call, Closure(button, std::move(body)));
+    XtAddCallback(button, XtNcallback, call, OwnedBy(button, std::move(body)));
 }
 
 void OnChosen(Widget list, std::function<void(int)> body) {
@@ -66,14 +63,14 @@ void OnChosen(Widget list, std::function<void(int)> body) {
         int row = static_cast<XawListReturnStruct*>(chosen)->list_index;
         Guarded([&] { (*static_cast<std::function<void(int)>*>(data))(row); });
     };
-    XtAddCallback(list, XtNcallback, call, Closure(list, std::move(body)));
+    XtAddCallback(list, XtNcallback, call, OwnedBy(list, std::move(body)));
 }
 
 void OnNonmaskableEvent(Widget widget, std::function<void(XEvent const&)> body) {
     auto call = [](Widget, XtPointer data, XEvent* event, Boolean*) {
         Guarded([&] { (*static_cast<std::function<void(XEvent const&)>*>(data))(*event); });
     };
-    XtAddEventHandler(widget, NoEventMask, True, call, Closure(widget, std::move(body)));
+    XtAddEventHandler(widget, NoEventMask, True, call, OwnedBy(widget, std::move(body)));
 }
 
 void RunEvery(unsigned long milliseconds, void (*body)()) {

@@ -52,9 +52,15 @@ void DialogWindow::ReportUnbuildable() const {
 // Nothing is typed into a dialog, so none opens an input method: that would read its long table of key sequences, or wait
 // for a server of its own.
 void DialogWindow::Open(char const* title) {
-    shell_ = XtVaAppCreateShell(name_, "XQENClientUI", applicationShellWidgetClass, display, XtNtitle, title,
-                                XtNiconName, title, XtNmappedWhenManaged, False, XtNallowShellResize, True, XtNinput,
-                                True, XtNwindowRole, name_, XtNclientLeader, qenHidden, "openIm", False, nullptr);
+    shell_ = CreateShell(name_, "XQENClientUI",
+                         {{XtNtitle, title},
+                          {XtNiconName, title},
+                          {XtNmappedWhenManaged, false},
+                          {XtNallowShellResize, true},
+                          {XtNinput, true},
+                          {XtNwindowRole, name_},
+                          {XtNclientLeader, qenHidden},
+                          {"openIm", false}});
     OverrideTranslations(shell_, "<Message>WM_PROTOCOLS: SystemMenuClose()\n");
     open_windows.push_back(this);
     form_ = Create(shell_, "form", formWidgetClass);

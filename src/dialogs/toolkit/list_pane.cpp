@@ -14,9 +14,9 @@
 namespace {
 
 std::size_t MostRows(Widget list) {
-    constexpr int tallest = 32767;  // Pixels, of a window that can be scrolled to its end.
+    constexpr int kTallest = 32767;  // Pixels, of a window that can be scrolled to its end.
     auto const& part = reinterpret_cast<ListWidget>(list)->list;
-    return static_cast<std::size_t>((tallest - 2 * part.internal_height) / std::max(part.row_height, 1));
+    return static_cast<std::size_t>((kTallest - 2 * part.internal_height) / std::max(part.row_height, 1));
 }
 
 }  // namespace

@@ -43,7 +43,7 @@ void SetText(Widget text_widget, char const* text, View view) {
 void MakeScrollable(Widget text_widget) {
     // It is no named child that could be looked up.
     Widget bar = reinterpret_cast<TextWidget>(text_widget)->text.vbar;
-    if (bar) XtVaSetValues(bar, XtNancestorSensitive, True, nullptr);
+    if (bar) SetResources(bar, {{XtNancestorSensitive, true}});
     OverrideScrollbarTranslations(bar);
 }
 

@@ -1,6 +1,7 @@
 #include "dialogs/toolkit/widgets.h"
 
 #include <X11/Intrinsic.h>
+#include <X11/Shell.h>
 #include <X11/StringDefs.h>
 #include <X11/Xaw/Form.h>
 
@@ -44,6 +45,12 @@ int TextWidth(Widget label) {
 
 }  // namespace
 
+Widget CreateShell(char const* name, char const* application_class, Arguments arguments) {
+    auto list = ToolkitArguments({arguments});
+    return XtAppCreateShell(name, application_class, applicationShellWidgetClass, display, list.data(),
+                            static_cast<Cardinal>(list.size()));
+}
+
 Widget Create(Widget parent, char const* name, WidgetClass kind, Arguments arguments, Arguments more) {
     auto list = ToolkitArguments({arguments, more});
     return XtCreateManagedWidget(name, kind, parent, list.data(), static_cast<Cardinal>(list.size()));
@@ -81,8 +88,8 @@ void PutAt(Widget child, int left) {
 }
 
 void FitToDisplay(Widget label) {
-    constexpr int margins = 16;
-    int const limit = DisplayWidthInPixels() - margins;
+    constexpr int kMargins = 16;
+    int const limit = DisplayWidthInPixels() - kMargins;
     int const wanted = TextWidth(label);
     if (WidthOf(label) == 0 || wanted > limit) Rewiden(label, std::min(wanted, limit));
 }

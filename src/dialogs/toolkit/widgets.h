@@ -43,6 +43,9 @@ using Arguments = std::initializer_list<Argument>;
 //
 // A widget belongs to its parent: destroying a shell destroys everything in it.
 
+// An application shell on the display, not yet realised. `name` is copied; a null `application_class` is none of its own.
+Widget CreateShell(char const* name, char const* application_class, Arguments arguments);
+
 // A managed child of `parent`, with the resources of both lists. `name` is copied.
 Widget Create(Widget parent, char const* name, WidgetClass kind, Arguments arguments = {}, Arguments more = {});
 
