@@ -26,6 +26,7 @@ void HandleActionRequest(XMLElement const& element) {
     XMLSerialize(element, request);
     actions.Append(request);
     UpdateActionRequestDialog();
+    DrawAttentionToActionRequestDialog();
     // Brings the dialog up even while a snooze is running: that is meant, the user has not put this request off.
     ShowActionRequestDialog(false, m_remindInterval, m_snoozable);
 }

@@ -30,7 +30,10 @@ void Close() {
 void Build() {
     window.Open(ControlLiteral("Action Script Preview").c_str());
     Widget text = window.AddText("actiondetails", script.c_str());
-    window.AlignRight(window.AddButton("ok", ControlLiteral("OK").c_str(), Close, {.below = text}), text);
+    Widget ok = window.AddButton("ok", ControlLiteral("OK").c_str(), Close, {.below = text});
+    window.AlignRight(ok, text);
+    window.SetFirstFocus(ok);
+    window.SetEscape(ok);
     window.Present({.asked_for = true, .over = ActionRequestDialogShell()});
 }
 

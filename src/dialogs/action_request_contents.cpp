@@ -57,7 +57,7 @@ void DescribeAll(ActionRequestContents& contents, PendingActions const& pending)
 }
 
 void DescribeOne(ActionRequestContents& contents, ActionRequest const& action) {
-    contents.title = MakePlatformString(FormatPlusArguments<1>(UFormat("{actionTitle}"), action.title));
+    contents.title = OneLine(MakePlatformString(FormatPlusArguments<1>(UFormat("{actionTitle}"), action.title)));
     contents.take_label = ControlLiteral("Take Action");
     contents.cancel_label = ControlLiteral("Cancel Action");
     contents.description = DescriptionOf(action);
@@ -103,7 +103,7 @@ std::vector<AutoNullTerminated<char>> MakeActionRows(PendingActions const& pendi
     std::vector<AutoNullTerminated<char>> rows;
     rows.reserve(pending.size());
     for (auto const& action : pending) {
-        auto title = MakeLocalString<UTF8>(action.title);
+        auto title = OneLine(MakeLocalString<UTF8>(action.title));
         auto const deadline = action.Deadline();
         rows.push_back(deadline ? Joined(title, MakeLocalString<UTF8>(UnixPlatform::FormattedLocalTime(*deadline)))
                                 : std::move(title));

@@ -103,7 +103,6 @@ void ShowContents(ActionRequestContents const& contents) {
 
 void RefreshContents() {
     ShowContents(MakeActionRequestContents(actions, SelectedID(), dialog.snoozable));
-    dialog.window.LayOut();
 }
 
 // A text that cannot be shown would stop every refresh to come: the dialog would stand still, over actions that nobody
@@ -127,11 +126,16 @@ void Refresh() {
     });
 }
 
-void RowPressed(Widget, _XEvent const&) {
+// The row that the list highlights, by the pointer or by the keyboard.
+void SelectHighlighted() {
     if (!dialog.window.IsOpen() || !dialog.enabled) return;
     dialog.selected_row = HighlightedRow(dialog.window.ActionList().List());
     HighlightSelection();
     RefreshOrReport(RefreshContents);
+}
+
+void RowPressed(Widget, _XEvent const&) {
+    SelectHighlighted();
 }
 
 // ---- Building
@@ -148,6 +152,7 @@ ActionRequestWindow::Handlers Handlers() {
             .cancel = [] { DecideAboutSelected(UICommandType::Cancel); },
             .details = [] { DecideAboutSelected(UICommandType::ShowDetails); },
             .snooze = SnoozePressed,
+            .row = [](int) { SelectHighlighted(); },
             .choice = [](int row) { dialog.selected_choice = row; }};
 }
 
@@ -171,6 +176,10 @@ void ShowActionRequestDialog(bool, TimeInterval const& remind_interval, bool sno
     dialog.default_interval = remind_interval;
     dialog.snoozable = snoozable;
     dialog.window.Build(Build);
+}
+
+void DrawAttentionToActionRequestDialog() {
+    dialog.window.SetUrgent();
 }
 
 void HideActionRequestDialog() {

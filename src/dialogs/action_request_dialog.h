@@ -14,6 +14,10 @@
 // tells whether the user may snooze at all. The first argument is unused.
 void ShowActionRequestDialog(bool, TimeInterval const& remind_interval, bool snoozable);
 
+// Asks the window manager to draw the user's attention to the dialog, as to one that has something new to show, until it
+// gets the keyboard.
+void DrawAttentionToActionRequestDialog();
+
 // Destroys the dialog.
 void HideActionRequestDialog();
 

@@ -13,13 +13,6 @@ namespace {
 constexpr int kGap = 4;  // Pixels between neighbours.
 constexpr int kSnoozeListWidth = 400;
 
-// The label is one line high: of several it would show those in the middle.
-std::string OneLine(char const* text) {
-    std::string line = text;
-    std::replace(line.begin(), line.end(), '\n', ' ');
-    return line;
-}
-
 int OuterWidthOf(Widget widget) {
     return WidthOf(widget) + 2 * BorderWidthOf(widget);
 }
@@ -29,44 +22,60 @@ int OuterWidthOf(Widget widget) {
 void ActionRequestWindow::Open(ActionRequestContents const& contents, Handlers handlers) {
     window_.Open(ControlLiteral(LocalizedStrings::ActionRequestTitle()).c_str());
     window_.SetFormDistance(kGap);
-    OpenActionPart(contents);
-    OpenButtons(contents, handlers);
-    OpenSnoozePart(contents, handlers);
+    OpenActionPart(contents, handlers);
+    OpenButtons(handlers);
+    OpenSnoozePart(handlers);
 }
 
-void ActionRequestWindow::OpenActionPart(ActionRequestContents const& contents) {
-    title_ = window_.AddLabel("actiontitle", OneLine(contents.title.c_str()).c_str(), {.framed = true, .width = 500});
+void ActionRequestWindow::OpenActionPart(ActionRequestContents const& contents, Handlers& handlers) {
+    title_ = window_.AddLabel("actiontitle", contents.title.c_str(),
+                              {.framed = true, .width = 500, .anchor = Anchor::TopWide});
     description_ = window_.AddText("actiondesc", "",
-                                   {.below = title_, .height = 70, .sensitive = true, .anchor = Anchor::TopLeft});
+                                   {.below = title_, .height = 70, .sensitive = true, .anchor = Anchor::TopWide});
     shown_description_.clear();
     Widget header = window_.AddLabel("actionListLabel", MakeActionListHeader().c_str(),
                                      {.below = description_, .distance = 10, .framed = true});
-    action_list_.Create(window_, "viewport", 485, 100, header);
+    action_list_.Create(window_, "viewport", 485, 100, header, Anchor::AllSides, std::move(handlers.row));
     controls_[kActionList] = {action_list_.List(), &ActionRequestContents::action_list};
+    window_.SetFirstFocus(action_list_.List());
 }
 
-void ActionRequestWindow::OpenButtons(ActionRequestContents const& contents, Handlers& handlers) {
-    auto add = [&](auto const* name, AutoNullTerminated<char> const& label, std::function<void()>& pressed) {
-        return window_.AddButton(name, label.c_str(), std::move(pressed),
-                                 {.below = action_list_.Viewport(), .anchor = Anchor::TopLeft});
-    };
+Widget ActionRequestWindow::AddButton(char const* name, std::initializer_list<Label> labels, Widget below,
+                                      std::function<void()>& pressed) {
+    ButtonTraits traits{.below = below, .anchor = Anchor::BottomLeft};
+    for (auto const& label : labels) traits.other_labels.push_back(label.c_str());
+    return window_.AddButton(name, labels.begin()->c_str(), std::move(pressed), traits);
+}
+
+void ActionRequestWindow::OpenButtons(Handlers& handlers) {
     using Contents = ActionRequestContents;
-    controls_[kTakeAll] = {add("takeAllActions", LocalizedStrings::TakeAllActions(), handlers.take_all),
-                           &Contents::take_all};
-    controls_[kTake] = {add("takeActions", contents.take_label, handlers.take), &Contents::take};
-    controls_[kCancel] = {add("cancelAction", contents.cancel_label, handlers.cancel), &Contents::cancel};
-    controls_[kDetails] = {add("actionDetails", LocalizedStrings::ActionHistoryTitle(), handlers.details),
-                           &Contents::details};
+    Widget const above = action_list_.Viewport();
+    auto set = [this](std::size_t control, Widget button, bool Contents::*sensitive) {
+        controls_[control] = {button, sensitive};
+    };
+    set(kTakeAll, AddButton("takeAllActions", {LocalizedStrings::TakeAllActions()}, above, handlers.take_all),
+        &Contents::take_all);
+    set(kTake,
+        AddButton("takeActions", {ControlLiteral("Take Actions"), ControlLiteral("Take Action")}, above, handlers.take),
+        &Contents::take);
+    set(kCancel,
+        AddButton("cancelAction", {ControlLiteral("Cancel Actions"), ControlLiteral("Cancel Action")}, above,
+                  handlers.cancel),
+        &Contents::cancel);
+    set(kDetails, AddButton("actionDetails", {LocalizedStrings::ActionHistoryTitle()}, above, handlers.details),
+        &Contents::details);
 }
 
-void ActionRequestWindow::OpenSnoozePart(ActionRequestContents const& contents, Handlers& handlers) {
-    Widget caption = window_.AddLabel("snoozeLabel", LocalizedStrings::SnoozeCaption().c_str(),
-                                      {.below = At(kTakeAll), .framed = true});
-    snooze_list_.Create(window_, "snoozeViewport", kSnoozeListWidth, 40, caption);
+void ActionRequestWindow::OpenSnoozePart(Handlers& handlers) {
+    Widget caption = snooze_caption_ =
+        window_.AddLabel("snoozeLabel", LocalizedStrings::SnoozeCaption().c_str(),
+                         {.below = At(kTakeAll), .framed = true, .anchor = Anchor::BottomLeft});
+    snooze_list_.Create(window_, "snoozeViewport", kSnoozeListWidth, 40, caption, Anchor::BottomLeft, handlers.choice);
     OnChosen(snooze_list_.List(), std::move(handlers.choice));
     controls_[kSnoozeList] = {snooze_list_.List(), &ActionRequestContents::snooze_list};
-    Widget snooze = window_.AddButton("snoozeButton", contents.snooze_label.c_str(), std::move(handlers.snooze),
-                                      {.below = caption, .anchor = Anchor::TopLeft});
+    Widget snooze =
+        AddButton("snoozeButton", {ControlLiteral("Snooze"), ControlLiteral("Close")}, caption, handlers.snooze);
+    AnchorInForm(snooze, Anchor::BottomRight);
     controls_[kSnooze] = {snooze, &ActionRequestContents::snooze_button};
 }
 
@@ -78,7 +87,7 @@ void ActionRequestWindow::Present() {
 }
 
 void ActionRequestWindow::ShowTexts(ActionRequestContents const& contents, unsigned long long const* described) {
-    SetLabel(title_, OneLine(contents.title.c_str()).c_str());
+    SetLabel(title_, contents.title.c_str());
     SetLabel(At(kTake), contents.take_label.c_str());
     SetLabel(At(kCancel), contents.cancel_label.c_str());
     SetLabel(At(kSnooze), contents.snooze_label.c_str());
@@ -99,7 +108,9 @@ void ActionRequestWindow::ShowSensitivity(ActionRequestContents const& contents)
     SetMapped(At(kDetails), contents.details_mapped);
 }
 
+// Whoever decides by the keyboard begins anew each time: a key typed twice decides once.
 void ActionRequestWindow::SetAllSensitive(bool sensitive) {
+    if (!sensitive) window_.ResetFocus();
     for (auto const& control : controls_) SetSensitive(control.widget, sensitive);
 }
 
@@ -107,24 +118,33 @@ void ActionRequestWindow::SetAllSensitive(bool sensitive) {
 // ends where they end, or where the display ends, if it has the room: without it nobody can snooze.
 void ActionRequestWindow::LayOut() {
     snooze_list_.Fit(kSnoozeListWidth);
+    int const snooze_left = 2 * kGap + OuterWidthOf(snooze_list_.Viewport());
+    CutToWidth(At(kSnooze), WidestInDisplay() - snooze_left);
     int const snooze_width = OuterWidthOf(At(kSnooze));
-    int const snooze_right = kGap + OuterWidthOf(snooze_list_.Viewport()) + kGap + snooze_width;
-    int const right = std::max(LayOutButtonRow(), snooze_right);
-    int const reachable_right = std::max(std::min(right, DisplayWidthInPixels() - 4 * kGap), snooze_right);
-    PutAt(At(kSnooze), reachable_right - snooze_width);
+    int const right = std::max(LayOutButtons(), snooze_left + snooze_width);
+    PutAt(At(kSnooze), right - snooze_width);
 
     int const width = right - kGap - 2 * BorderWidthOf(title_);
-    for (Widget wide : {title_, description_})
-        if (WidthOf(wide) != ClampedSize(width)) Rewiden(wide, width);
+    for (Widget wide : {title_, description_}) Rewiden(wide, width);
     action_list_.Fit(width);
 }
 
-// Puts the buttons side by side and returns where the row ends, in pixels from the form's edge.
-int ActionRequestWindow::LayOutButtonRow() {
-    int left = kGap;
-    for (int button : {kTakeAll, kTake, kCancel, kDetails}) {
-        PutAt(At(button), left);
-        left += OuterWidthOf(At(button)) + kGap;
+// Puts the buttons side by side, in a row more wherever the display ends, and returns where the widest row ends, in pixels
+// from the form's edge.
+int ActionRequestWindow::LayOutButtons() {
+    int left = kGap, right = 0;
+    Widget above = action_list_.Viewport(), first = At(kTakeAll);
+    for (int control : {kTakeAll, kTake, kCancel, kDetails}) {
+        Widget const button = At(control);
+        if (left > kGap && left + OuterWidthOf(button) > WidestInDisplay()) {
+            left = kGap;
+            above = std::exchange(first, button);
+        }
+        PutAt(button, left);
+        PutBelow(button, above);
+        left += OuterWidthOf(button) + kGap;
+        right = std::max(right, left - kGap);
     }
-    return left - kGap;
+    PutBelow(snooze_caption_, first);
+    return right;
 }

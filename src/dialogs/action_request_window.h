@@ -16,7 +16,8 @@ class ActionRequestWindow {
     // What becomes of each press, and of a row chosen for snoozing.
     struct Handlers {
         std::function<void()> take_all, take, cancel, details, snooze;
-        std::function<void(int row)> choice;
+        std::function<void(int row)> row;     // Of an action, by the keyboard.
+        std::function<void(int row)> choice;  // Of a snooze.
     };
 
     bool IsOpen() const { return window_.IsOpen(); }
@@ -32,16 +33,15 @@ class ActionRequestWindow {
     [[noreturn]] void ReportUnbuildable() const { window_.ReportUnbuildable(); }
     // Makes the widgets with the texts of the contents; the lists are empty yet.
     void Open(ActionRequestContents const& contents, Handlers handlers);
-    // Everything is in its final place before it is seen.
+    // Puts everything in its place, where it stays whatever is shown from then on, and shows the window.
     void Present();
     void Close() { window_.Close(); }
+    void SetUrgent() { window_.SetUrgent(); }
 
     // Shows the texts, the description as that of the action `described` or, when it is null, of all: what is being read
     // stays in view while its countdown runs.
     void ShowTexts(ActionRequestContents const& contents, unsigned long long const* described);
     void ShowSensitivity(ActionRequestContents const& contents);
-    // Puts everything in its place; after each change of texts and rows.
-    void LayOut();
     // All buttons and both lists together.
     void SetAllSensitive(bool sensitive);
 
@@ -54,15 +54,21 @@ class ActionRequestWindow {
     enum { kActionList, kTakeAll, kTake, kCancel, kDetails, kSnoozeList, kSnooze, kControls };
 
     Widget At(int control) const { return controls_[static_cast<std::size_t>(control)].widget; }
-    void OpenActionPart(ActionRequestContents const& contents);
-    void OpenButtons(ActionRequestContents const& contents, Handlers& handlers);
-    void OpenSnoozePart(ActionRequestContents const& contents, Handlers& handlers);
+    using Label = AutoNullTerminated<char>;
+    // With the first of the labels that it will have.
+    Widget AddButton(char const* name, std::initializer_list<Label> labels, Widget below,
+                     std::function<void()>& pressed);
+    void OpenActionPart(ActionRequestContents const& contents, Handlers& handlers);
+    void OpenButtons(Handlers& handlers);
+    void OpenSnoozePart(Handlers& handlers);
     void ShowDescription(char const* text, unsigned long long const* described);
-    int LayOutButtonRow();
+    void LayOut();
+    int LayOutButtons();
 
     DialogWindow window_{"ActionRequestDialog"};
     Widget title_ = nullptr;
     Widget description_ = nullptr;
+    Widget snooze_caption_ = nullptr;
     ListPane action_list_;
     ListPane snooze_list_;
     std::array<Control, kControls> controls_ = {};

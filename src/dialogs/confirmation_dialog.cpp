@@ -18,25 +18,18 @@ unsigned long long asked_id = 0;
 // Pixels; never reset, so that no question is narrower than the widest explanation seen.
 int minimum_text_width = 500;
 
-constexpr int kMostTitleLines = 10;
+// More of a long title or explanation would push the buttons out of a small display.
+constexpr int kMostLines = 4;
 
 struct Texts {
     AutoNullTerminated<char> action_title;
     AutoNullTerminated<char> confirmation;
 };
 
-// The rest of a title of more lines is cut off: it would push the buttons out of the display.
-AutoNullTerminated<char> FirstLines(AutoNullTerminated<char> const& title) {
-    char const* end = title.c_str();
-    for (int lines = 0; *end && (*end != '\n' || ++lines < kMostTitleLines); ++end) {
-    }
-    return {title.c_str(), end};
-}
-
 Texts TextsFor(unsigned long long id) {
     Texts texts;
     ActionRequest const* action = actions.FindAction(id);
-    if (action) texts.action_title = FirstLines(MakeLocalString<UTF8>(action->title));
+    if (action) texts.action_title = OneLine(MakeLocalString<UTF8>(action->title));
     if (action && action->pre_action_message)
         texts.confirmation = MakeLocalString<UTF8>(action->pre_action_message->Ref());
     return texts;
@@ -49,7 +42,8 @@ void Answer(UICommandType answer) {
 
 Widget AddExplanation(Widget title) {
     auto const text = ControlLiteral("This action requires you to acknowledge the following confirmation message:");
-    Widget explanation = window.AddLabel("staticlabel", text.c_str(), {.below = title, .left = true});
+    Widget explanation =
+        window.AddLabel("staticlabel", text.c_str(), {.below = title, .left = true, .most_lines = kMostLines});
     minimum_text_width = std::max(minimum_text_width, WidthOf(explanation));
     return explanation;
 }
@@ -62,15 +56,15 @@ void AddButtons(Widget text) {
                                  [] { Answer(UICommandType::ConfirmationAccepted); }, {.below = text});
     window.AlignRight(cancel, text);
     window.AlignRight(ok, text, WidthOf(cancel) + 6 * BorderWidthOf(text));
+    window.SetFirstFocus(cancel);
+    window.SetEscape(cancel);
 }
 
 void Build(unsigned long long id) {
     asked_id = id;
     auto const texts = TextsFor(id);
     window.Open(ControlLiteral("Confirmation Required").c_str());
-    Widget title = window.AddLabel("actiontitle", texts.action_title.c_str(), {.left = true});
-    // A wider window would stand with its buttons outside the display.
-    FitToDisplay(title);
+    Widget title = window.AddLabel("actiontitle", texts.action_title.c_str(), {.left = true, .most_lines = kMostLines});
     Widget explanation = AddExplanation(title);
     AddButtons(window.AddText("actionconfirmation", texts.confirmation.c_str(),
                               {.below = explanation, .width = minimum_text_width}));

@@ -31,7 +31,7 @@ std::list<MessageDialog>& dialogs = NeverDestroyed<std::list<MessageDialog>>();
 
 AutoNullTerminated<char> MessageDialog::Title() const {
     if (request.is_completion_message) return ControlLiteral("Corvane notification:");
-    return MakeLocalString<UTF8>(request.title);
+    return OneLine(MakeLocalString<UTF8>(request.title));
 }
 
 AutoNullTerminated<char> MessageDialog::Message() const {
@@ -54,6 +54,8 @@ void Open(MessageDialog& dialog) {
         auto const dismiss = [&dialog] { RemoveFirst([&](auto const& open) { return &open == &dialog; }); };
         Widget button = window.AddButton("dismiss", ControlLiteral("OK").c_str(), dismiss, {.below = dialog.text});
         window.AlignRight(button, dialog.text);
+        window.SetFirstFocus(button);
+        window.SetEscape(button);
         window.Present({});
     });
 }

@@ -16,6 +16,8 @@ auto& window = NeverDestroyed<DialogWindow>("QuietModeDialog");
 // Pixels, of the widest explanation seen; it widens nothing.
 int minimum_label_width = 500;
 
+constexpr int kMostLines = 10;
+
 void Close() {
     RemoveQuietModeDialog();
     QueueCommand(UICommandType::QuietNoticeClosed, 0, 0, 0);
@@ -23,10 +25,14 @@ void Close() {
 
 void Build(Instant const& start, Instant const& end) {
     window.Open(ControlLiteral("Not Currently Available").c_str());
-    Widget label = window.AddLabel("staticlabel", LocalizedStrings::QuietModeExplanation(start, end).c_str());
+    Widget label = window.AddLabel("staticlabel", LocalizedStrings::QuietModeExplanation(start, end).c_str(),
+                                   {.most_lines = kMostLines});
     minimum_label_width = std::max(minimum_label_width, WidthOf(label));
     auto const traits = ButtonTraits{.below = label, .anchor = Anchor::TopLeft};
-    window.Center(window.AddButton("ok", ControlLiteral("OK").c_str(), Close, traits), label);
+    Widget ok = window.AddButton("ok", ControlLiteral("OK").c_str(), Close, traits);
+    window.Center(ok, label);
+    window.SetFirstFocus(ok);
+    window.SetEscape(ok);
     window.Present({.over = ActionRequestDialogShell()});
 }
 

@@ -182,6 +182,6 @@ void CreateHiddenWindow() {
     qenHidden = CreateShell("QENClientUIHiddenWindow", nullptr,
                             {{XtNwidth, 32}, {XtNheight, 32}, {XtNmappedWhenManaged, false}});
     XtRealizeWidget(qenHidden);
-    OnNonmaskableEvent(qenHidden, HiddenWindowEventHandler);
+    OnEvents(qenHidden, NoEventMask, HiddenWindowEventHandler);
     LeadDialogWindows();
 }

@@ -5,6 +5,7 @@
 #include <X11/Xaw/List.h>
 #include <sys/timerfd.h>
 
+#include <array>
 #include <memory>
 
 #include "core/process/process_state.h"
@@ -20,6 +21,12 @@ auto* OwnedBy(Widget widget, std::function<void(Values...)> body) {
     XtAddCallback(widget, XtNdestroyCallback, drop, owned.get());
     return owned.release();
 }
+
+struct Filter {
+    EventFilter body = nullptr;
+    XtEventDispatchProc next = nullptr;
+};
+std::array<Filter, LASTEvent> filters;
 
 struct Repetition {
     unsigned long milliseconds;
@@ -66,11 +73,24 @@ void OnChosen(Widget list, std::function<void(int)> body) {
     XtAddCallback(list, XtNcallback, call, OwnedBy(list, std::move(body)));
 }
 
-void OnNonmaskableEvent(Widget widget, std::function<void(XEvent const&)> body) {
+void OnEvents(Widget widget, long mask, std::function<void(XEvent const&)> body) {
     auto call = [](Widget, XtPointer data, XEvent* event, Boolean*) {
         Guarded([&] { (*static_cast<std::function<void(XEvent const&)>*>(data))(*event); });
     };
-    XtAddEventHandler(widget, NoEventMask, True, call, OwnedBy(widget, std::move(body)));
+    XtAddEventHandler(widget, static_cast<EventMask>(mask), mask == NoEventMask, call,
+                      OwnedBy(widget, std::move(body)));
+}
+
+void BeforeDispatch(int event_type, EventFilter body) {
+    auto dispatch = [](XEvent* event) -> Boolean {
+        auto const& filtered = filters[static_cast<std::size_t>(event->type)];
+        bool swallowed = false;
+        Guarded([&] { swallowed = filtered.body(*event); });
+        return swallowed ? True : filtered.next(event);
+    };
+    auto& filter = filters[static_cast<std::size_t>(event_type)];
+    filter.body = body;
+    filter.next = XtSetEventDispatcher(display, event_type, dispatch);
 }
 
 void RunEvery(unsigned long milliseconds, void (*body)()) {

@@ -17,8 +17,14 @@ void OnPressed(Widget button, std::function<void()> body);
 // Runs `body` with the index of the row when the list notifies a choice.
 void OnChosen(Widget list, std::function<void(int row)> body);
 
-// Runs `body` for every event that has no event mask (client messages among them) sent to the widget's window.
-void OnNonmaskableEvent(Widget widget, std::function<void(_XEvent const& event)> body);
+// Runs `body` for every event of the mask (X.h) that the widget's window gets; a mask of none stands for the events that
+// have no mask, client messages among them.
+void OnEvents(Widget widget, long mask, std::function<void(_XEvent const& event)> body);
+
+// Runs `body` for every event of this type, of whichever widget, before the toolkit has it; what `body` answers true to,
+// the toolkit never sees. Once a type and display.
+using EventFilter = bool (*)(_XEvent const& event);
+void BeforeDispatch(int event_type, EventFilter body);
 
 // Runs `body` every `milliseconds`, counted from the end of the run before, whatever the run throws. When the wall clock
 // is set back meanwhile, the next run comes after twice that time at the latest.

@@ -3,11 +3,13 @@
 #include <X11/Intrinsic.h>
 #include <X11/Shell.h>
 #include <X11/StringDefs.h>
+#include <X11/XKBlib.h>
 #include <X11/Xatom.h>
 #include <X11/Xaw/Command.h>
 #include <X11/Xaw/Form.h>
 #include <X11/Xaw/Label.h>
 #include <X11/Xutil.h>
+#include <X11/keysym.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -37,6 +39,41 @@ void SetProperty(Widget shell, char const* name, Atom type, unsigned long value)
                     reinterpret_cast<unsigned char*>(&value), 1);
 }
 
+// The open dialog that the window belongs to, or null.
+DialogWindow* DialogOf(Window window) {
+    Widget widget = XtWindowToWidget(display, window);
+    while (widget && XtParent(widget)) widget = XtParent(widget);
+    auto const found = std::ranges::find(open_windows, widget, &DialogWindow::Shell);
+    return found == open_windows.end() ? nullptr : *found;
+}
+
+bool FilterKey(XEvent const& event) {
+    DialogWindow* dialog = DialogOf(event.xany.window);
+    return dialog && dialog->HandleKey(event);
+}
+
+// The wheel is four buttons, of which the toolkit's own widgets know some; the others are for it.
+bool FilterButton(XEvent const& event) {
+    DialogWindow* dialog = DialogOf(event.xany.window);
+    if (!dialog) return false;
+    dialog->HandleButton(event);
+    return event.xbutton.button >= Button4 && event.xbutton.button <= Button5 + 2;
+}
+
+bool HasWindowManager() {
+    XWindowAttributes root;
+    return XGetWindowAttributes(display, DefaultRootWindow(display), &root) != 0 &&
+           (root.all_event_masks & SubstructureRedirectMask) != 0;
+}
+
+// What a window manager would do. The window may vanish before the server hears of it, which is no error then.
+void TakeKeyboard(Widget shell, Time time) {
+    auto const handler = XSetErrorHandler([](Display*, XErrorEvent*) { return 0; });
+    XSetInputFocus(display, XtWindow(shell), RevertToPointerRoot, time);
+    XSync(display, False);
+    XSetErrorHandler(handler);
+}
+
 }  // namespace
 
 bool DialogWindow::MayOpen() const {
@@ -64,6 +101,12 @@ void DialogWindow::Open(char const* title) {
     OverrideTranslations(shell_, "<Message>WM_PROTOCOLS: SystemMenuClose()\n");
     open_windows.push_back(this);
     form_ = Create(shell_, "form", formWidgetClass);
+    focus_.Begin(form_);
+    has_keyboard_ = false;
+    // Keys are asked for here, so that they come wherever the pointer is; they are filtered before they get anywhere.
+    OnEvents(shell_, StructureNotifyMask | FocusChangeMask | KeyPressMask | KeyReleaseMask,
+             [this](XEvent const& event) { HandleEvent(event); });
+    OnEvents(form_, ExposureMask, [this](XEvent const&) { focus_.Draw(); });
 }
 
 void DialogWindow::SetFormDistance(int pixels) {
@@ -71,32 +114,36 @@ void DialogWindow::SetFormDistance(int pixels) {
 }
 
 Widget DialogWindow::AddLabel(char const* name, char const* text, LabelTraits const& traits) {
-    Widget label = Create(form_, name, labelWidgetClass,
-                          {{XtNlabel, text}, {XtNfromVert, traits.below}, {XtNinternational, true}});
+    Widget label = CreateLabel(form_, name, labelWidgetClass, text, traits.below);
     if (!traits.framed) SetResources(label, {{XtNborderWidth, 0}});
     if (traits.left) SetResources(label, {{XtNjustify, XtJustifyLeft}});
     if (traits.distance > 0) SetResources(label, {{XtNvertDistance, traits.distance}});
     if (traits.width > 0) SetResources(label, {{XtNwidth, traits.width}, {XtNresize, false}});
-    AnchorInForm(label, Anchor::TopLeft);
+    FitToDisplay(label, traits.most_lines);
+    AnchorInForm(label, traits.anchor);
     return label;
 }
 
 Widget DialogWindow::AddText(char const* name, char const* text, TextTraits const& traits) {
-    Widget added = CreateReadOnlyText(
-        form_, name, text, {{XtNfromVert, traits.below}, {XtNwidth, traits.width}, {XtNheight, traits.height}});
+    int const width = std::min(traits.width, WidestInDisplay());
+    Widget added = CreateReadOnlyText(form_, name, text,
+                                      {{XtNfromVert, traits.below}, {XtNwidth, width}, {XtNheight, traits.height}});
     SetSensitive(added, traits.sensitive);
     AnchorInForm(added, traits.anchor);
     texts_.push_back(added);
+    AddControl({.widget = added, .outline = added, .scroll = [added](Move move, int lines) {
+                    ScrollText(added, move, lines);
+                }});
     return added;
 }
 
 Widget DialogWindow::AddButton(char const* name, char const* label, std::function<void()> pressed,
                                ButtonTraits const& traits) {
-    Widget button =
-        Create(form_, name, commandWidgetClass,
-               {{XtNfromVert, traits.below}, {XtNlabel, label}, {XtNinternational, true}, {XtNresizable, true}});
+    Widget button = CreateLabel(form_, name, commandWidgetClass, label, traits.below);
+    FixWidth(button, traits.other_labels);
     AnchorInForm(button, traits.anchor);
-    OnPressed(button, std::move(pressed));
+    OnPressed(button, pressed);
+    AddControl({.widget = button, .outline = button, .press = std::move(pressed)});
     return button;
 }
 
@@ -113,13 +160,69 @@ void DialogWindow::Realize() {
     for (Widget text : texts_) MakeScrollable(text);
 }
 
+// The window that nobody asked for says at first that it takes no keyboard (WM_HINTS), and once it is mapped that it
+// does. Of the ways that there are, tried under openbox, metacity, mutter and xfwm4, only this one leaves it on top of the
+// window that has the keyboard, leaves the keyboard there, gives it the keyboard with a click, and lets other windows be
+// raised over it: a _NET_WM_USER_TIME of 0 opens it below under metacity and mutter, and _NET_WM_STATE_ABOVE, which mends
+// that, keeps it above whatever the user clicks.
 void DialogWindow::Present(WindowTraits const& traits) {
     if (!XtIsRealized(shell_)) Realize();
     CenterDialogOnDisplay(shell_);
+    SetSmallestSize();
+    asked_for_ = traits.asked_for;
+    if (!asked_for_) SetResources(shell_, {{XtNinput, false}});
     Atom close = AtomOf("WM_DELETE_WINDOW");
     XSetWMProtocols(display, XtWindow(shell_), &close, 1);
     SetProperties(traits);
     XtMapWidget(shell_);
+}
+
+// From here on the size is the user's: no widget asks for another one.
+void DialogWindow::SetSmallestSize() {
+    auto const size = SmallestSizeOf(form_);
+    SetResources(shell_, {{XtNallowShellResize, false}, {XtNminWidth, size.width}, {XtNminHeight, size.height}});
+}
+
+void DialogWindow::HandleEvent(XEvent const& event) {
+    if (event.type == MapNotify) HandleMapped();
+    bool const change = event.type == FocusIn || event.type == FocusOut;
+    // A grab takes the keyboard for a moment only: a menu's, or that of a click that the window manager looks at.
+    if (!change || event.xfocus.mode == NotifyGrab || event.xfocus.mode == NotifyUngrab) return;
+    if (event.xfocus.detail != NotifyInferior) HandleFocus(event.type == FocusIn);
+}
+
+void DialogWindow::HandleMapped() {
+    if (!asked_for_) SetResources(shell_, {{XtNinput, true}});
+    if (asked_for_ && !HasWindowManager()) TakeKeyboard(shell_, CurrentTime);
+}
+
+void DialogWindow::HandleFocus(bool gained) {
+    has_keyboard_ = gained;
+    focus_.Reset();
+    focus_.SetShown(gained);
+    if (gained) SetResources(shell_, {{XtNurgency, false}});
+}
+
+void DialogWindow::SetUrgent() {
+    if (shell_ && !has_keyboard_) SetResources(shell_, {{XtNurgency, true}});
+}
+
+bool DialogWindow::HandleKey(XEvent const& event) {
+    static KeyCode held = 0;
+    auto key = event.xkey;
+    if (event.type == KeyRelease) return held = 0, false;
+    bool const again = std::exchange(held, static_cast<KeyCode>(key.keycode)) == key.keycode;
+    KeySym const meaning = XLookupKeysym(&key, (key.state & ShiftMask) != 0 ? 1 : 0);
+    bool const backwards = meaning == XK_Tab && (key.state & ShiftMask) != 0;
+    return focus_.HandleKey(backwards ? XK_ISO_Left_Tab : meaning, again);
+}
+
+void DialogWindow::HandleButton(XEvent const& event) {
+    unsigned const button = event.xbutton.button;
+    if (button == Button4 || button == Button5)
+        focus_.HandleWheel(XtWindowToWidget(display, event.xbutton.window), button == Button4);
+    else if (!HasWindowManager())
+        TakeKeyboard(shell_, event.xbutton.time);
 }
 
 void DialogWindow::SetProperties(WindowTraits const& traits) {
@@ -129,7 +232,6 @@ void DialogWindow::SetProperties(WindowTraits const& traits) {
     SetProperty(shell_, "_NET_WM_PID", XA_CARDINAL, static_cast<unsigned long>(getpid()));
     SetProperty(shell_, "_NET_WM_WINDOW_TYPE", XA_ATOM,
                 AtomOf(traits.dialog ? "_NET_WM_WINDOW_TYPE_DIALOG" : "_NET_WM_WINDOW_TYPE_NORMAL"));
-    if (!traits.asked_for) SetProperty(shell_, "_NET_WM_USER_TIME", XA_CARDINAL, 0);
     if (traits.over) XSetTransientForHint(display, XtWindow(shell_), XtWindow(traits.over));
 }
 
@@ -176,4 +278,8 @@ void SystemMenuClose(Widget widget, XEvent const& event) {
 void RegisterDialogActions() {
     RegisterAction<SystemMenuClose>("SystemMenuClose");
     RegisterAction<Nothing>("Nothing");
+    // Where the server has it, a key that is held down sends no releases in between.
+    XkbSetDetectableAutoRepeat(display, True, nullptr);
+    for (int type : {KeyPress, KeyRelease}) BeforeDispatch(type, FilterKey);
+    BeforeDispatch(ButtonPress, FilterButton);
 }

@@ -3,16 +3,17 @@
 #include <functional>
 #include <vector>
 
+#include "dialogs/toolkit/focus_ring.h"
 #include "dialogs/toolkit/widgets.h"
 
-class ListPane;
 union _XEvent;
 
 // What a window manager should know of the window (Extended Window Manager Hints, EWMH; ICCCM).
 struct WindowTraits {
     // A dialog rather than a normal window.
     bool dialog = true;
-    // The user has asked for it. Any other window comes up without taking the keyboard from what the user is doing.
+    // The user has asked for it, so it takes the keyboard. Any other window comes up on top and leaves the keyboard to
+    // what the user is doing, until it is clicked.
     bool asked_for = false;
     // The shell that it belongs to and stays above, or null.
     Widget over = nullptr;
@@ -22,8 +23,10 @@ struct LabelTraits {
     Widget below = nullptr;
     int distance = 0;  // From what it is below; 0 is the form's own.
     bool framed = false;
-    bool left = false;  // Lines begin at the left edge rather than stand in the middle.
-    int width = 0;      // Kept whatever it says; 0 fits the text.
+    bool left = false;   // Lines begin at the left edge rather than stand in the middle.
+    int width = 0;       // Kept whatever it says; 0 fits the text.
+    int most_lines = 0;  // Text that the display is too narrow for is broken into so many lines; 0 cuts it off.
+    Anchor anchor = Anchor::TopLeft;
 };
 
 struct TextTraits {
@@ -37,6 +40,8 @@ struct TextTraits {
 struct ButtonTraits {
     Widget below = nullptr;
     Anchor anchor = Anchor::BottomRight;
+    // Texts that it will show at other times: it is as wide as the widest needs.
+    std::vector<char const*> other_labels = {};
 };
 
 // The window of one dialog: an application shell, the form in it, and the order in which every dialog comes to be.
@@ -83,6 +88,14 @@ class DialogWindow {
     Widget AddButton(char const* name, char const* label, std::function<void()> pressed,
                      ButtonTraits const& traits = {});
 
+    // A control of which the keyboard and the wheel know; texts and buttons are some by themselves.
+    void AddControl(Control control) { focus_.Add(std::move(control)); }
+    // Which control has the focus at first, and which button Escape presses.
+    void SetFirstFocus(Widget widget) { focus_.SetFirst(widget); }
+    void SetEscape(Widget button) { focus_.SetEscape(button); }
+    // Puts the focus back to the first: after a decision, so that a key typed twice decides once.
+    void ResetFocus() { focus_.Reset(); }
+
     // Puts a button's right edge under that of `above`, or so many pixels left of it.
     void AlignRight(Widget button, Widget above, int left_by = 0);
     // Puts a button under the middle of `above`.
@@ -96,11 +109,22 @@ class DialogWindow {
 
     void SetTitle(char const* title);
 
+    // Asks the window manager to draw the user's attention to the window, until it gets the keyboard (ICCCM 4.1.2.4).
+    void SetUrgent();
+
+    // What the toolkit hands on of keys and the wheel; whether they were meant for this window.
+    bool HandleKey(_XEvent const& event);
+    void HandleButton(_XEvent const& event);
+
     // Destroys the window, if it is open.
     void Close();
 
   private:
     bool MayOpen() const;
+    void HandleEvent(_XEvent const& event);
+    void HandleMapped();
+    void HandleFocus(bool gained);
+    void SetSmallestSize();
     void SetProperties(WindowTraits const& traits);
     void SetTitleProperty(char const* title);
 
@@ -108,6 +132,9 @@ class DialogWindow {
     Widget shell_ = nullptr;
     Widget form_ = nullptr;
     std::vector<Widget> texts_;
+    FocusRing focus_;
+    bool asked_for_ = false;
+    bool has_keyboard_ = false;
 };
 
 // Makes the hidden shell the leader (ICCCM 4.1.11) of the windows that were opened before it; later ones have it at once.
@@ -121,8 +148,8 @@ void CenterDialogOnDisplay(Widget shell);
 // is sent. Every other event is ignored.
 void SystemMenuClose(Widget widget, _XEvent const& event);
 
-// Registers "SystemMenuClose", and "Nothing" for translations that swallow an event, users' own among them: once an
-// application, before its first dialog.
+// Registers "SystemMenuClose", and "Nothing" for translations that swallow an event, users' own among them, and hands keys
+// and the wheel to the dialogs: once an application, before its first dialog.
 void RegisterDialogActions();
 
 template <class F>

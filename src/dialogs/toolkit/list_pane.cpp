@@ -9,24 +9,29 @@
 #include <cstring>
 #include <utility>
 
+#include "dialogs/toolkit/callbacks.h"
 #include "dialogs/toolkit/read_only_text.h"
 
 namespace {
 
+auto const& PartOf(Widget list) {
+    return reinterpret_cast<ListWidget>(list)->list;
+}
+
 std::size_t MostRows(Widget list) {
     constexpr int kTallest = 32767;  // Pixels, of a window that can be scrolled to its end.
-    auto const& part = reinterpret_cast<ListWidget>(list)->list;
-    return static_cast<std::size_t>((kTallest - 2 * part.internal_height) / std::max(part.row_height, 1));
+    return static_cast<std::size_t>((kTallest - 2 * PartOf(list).internal_height) /
+                                    std::max(PartOf(list).row_height, 1));
 }
 
 }  // namespace
 
-void ListPane::Create(DialogWindow const& window, char const* name, int width, int height, Widget below) {
-    scrollbar_ = nullptr;
-    fitted_width_ = width;
+void ListPane::Create(DialogWindow& window, char const* name, int width, int height, Widget below, Anchor anchor,
+                      std::function<void(int)> on_row) {
+    on_row_ = std::move(on_row);
     viewport_ = ::Create(window.Form(), name, viewportWidgetClass,
                          {{XtNwidth, width}, {XtNheight, height}, {XtNallowVert, true}, {XtNfromVert, below}});
-    AnchorInForm(viewport_, Anchor::TopLeft);
+    AnchorInForm(viewport_, anchor);
     // A list that is given no array shows its own name as a row, and divides by the width of its one column: no user's
     // resources may take the array or the width from it.
     static char const* const no_rows[] = {nullptr};
@@ -39,6 +44,13 @@ void ListPane::Create(DialogWindow const& window, char const* name, int width, i
                       {XtNnumberStrings, 0},
                       {XtNcolumnSpacing, 6}});
     rows_.clear();
+    OnEvents(list_, StructureNotifyMask, [this](XEvent const& event) {
+        if (event.type == ConfigureNotify) WidenRows();
+    });
+    window.AddControl({.widget = list_,
+                       .outline = viewport_,
+                       .go = [this](Move move) { GoTo(move); },
+                       .scroll = [this](Move move, int lines) { Scroll(move, lines); }});
 }
 
 // Managed again, a realised list's window is put at the top of the viewport behind the toolkit's back: it is moved there
@@ -60,7 +72,7 @@ void ListPane::HandOver(Rows rows) {
     array.push_back(nullptr);
 
     XtUnmanageChild(list_);
-    XawListChange(list_, array.data(), static_cast<int>(rows.size()), 0, True);
+    XawListChange(list_, array.data(), static_cast<int>(rows.size()), RowWidth(), True);
     XtManageChild(list_);
     rows_ = std::move(rows);
     array_ = std::move(array);
@@ -78,12 +90,41 @@ void ListPane::Highlight(int row) {
 
 void ListPane::Fit(int width) {
     Widget scrollbar = VerticalScrollbar(viewport_);
-    int const wanted = scrollbar ? width + WidthOf(scrollbar) : width;
-    if (scrollbar == scrollbar_ && wanted == fitted_width_) return;
-    if (scrollbar != scrollbar_) OverrideScrollbarTranslations(scrollbar);
-    scrollbar_ = scrollbar;
-    fitted_width_ = wanted;
-    Rewiden(viewport_, wanted);
+    if (scrollbar) OverrideScrollbarTranslations(scrollbar);
+    Rewiden(viewport_, scrollbar ? width + WidthOf(scrollbar) : width);
+    WidenRows();
+}
+
+int ListPane::RowWidth() const {
+    Widget scrollbar = VerticalScrollbar(viewport_);
+    int const beside = scrollbar ? WidthOf(scrollbar) + BorderWidthOf(scrollbar) : 0;
+    auto const& part = PartOf(list_);
+    return std::max(1, WidthOf(viewport_) - beside - 2 * part.internal_width - part.column_space);
+}
+
+void ListPane::WidenRows() {
+    if (PartOf(list_).longest == RowWidth()) return;
+    SetResources(list_, {{XtNlongest, RowWidth()}});
+    OverrideScrollbarTranslations(VerticalScrollbar(viewport_));
+}
+
+void ListPane::GoTo(Move move) {
+    int const last = static_cast<int>(rows_.size()) - 1;
+    if (last < 0) return;
+    int const page = std::max(1, HeightOf(viewport_) / std::max(1, PartOf(list_).row_height) - 1);
+    int const from = HighlightedRow(list_);
+    // From no row at all, the first move leads to the first.
+    int const steps[] = {-1, 1, -page, page, -last, last};
+    int const to = from < 0 && move != Move::Last ? 0 : from + steps[static_cast<std::size_t>(move)];
+    Highlight(std::clamp(to, 0, last));
+    on_row_(HighlightedRow(list_));
+}
+
+void ListPane::Scroll(Move move, int lines) const {
+    int const step = lines * PartOf(list_).row_height;
+    Position top = 0;
+    XtVaGetValues(list_, XtNy, &top, nullptr);
+    XawViewportSetCoordinates(viewport_, 0, static_cast<Position>(-top + (move == Move::LineUp ? -step : step)));
 }
 
 int HighlightedRow(Widget list) {

@@ -8,8 +8,8 @@
 
 // A one-column list in a viewport that scrolls it. Main thread only.
 //
-// The viewport's scroll bar comes and goes with the number of rows. It stands beside the rows, not over them: while it
-// is there the viewport is wider by its width.
+// The viewport's scroll bar comes and goes with the number of rows. One that is there from the beginning stands beside the
+// rows, not over them; one that comes later takes its room from them, so that the window stays as it is.
 //
 // The list widget keeps pointers to its row texts and to their array and copies neither: they live here, new ones are
 // complete before the old ones go, and all outlive the widgets. So a pane may be created again after its dialog was
@@ -18,8 +18,10 @@ class ListPane {
   public:
     using Rows = std::vector<AutoNullTerminated<char>>;
 
-    // Makes the two widgets, without rows; `width` and `height` are the rows' part in pixels.
-    void Create(DialogWindow const& window, char const* name, int width, int height, Widget below);
+    // Makes the two widgets, without rows; `width` and `height` are the rows' part in pixels. `on_row` hears of each row
+    // that the keyboard highlights.
+    void Create(DialogWindow& window, char const* name, int width, int height, Widget below, Anchor anchor,
+                std::function<void(int row)> on_row);
 
     Widget Viewport() const { return viewport_; }
     Widget List() const { return list_; }
@@ -35,17 +37,22 @@ class ListPane {
     // check, and a highlight beyond the rows makes it read beyond its array.
     void Highlight(int row);
 
-    // Gives the rows' part a new width and takes account of a scroll bar that has come or gone. Once the widgets are
-    // realised, and after each change of the rows.
+    // Makes the viewport so wide that the rows have this width beside its scroll bar, if it has one. Once the widgets
+    // are realised and have their rows, before the window is seen.
     void Fit(int width);
 
   private:
     void HandOver(Rows rows);
+    // The width that the rows share: that of the viewport beside its scroll bar, so that a row can be pressed, and is
+    // highlighted, from edge to edge.
+    int RowWidth() const;
+    void WidenRows();
+    void GoTo(Move move);
+    void Scroll(Move move, int lines) const;
 
     Widget viewport_ = nullptr;
     Widget list_ = nullptr;
-    Widget scrollbar_ = nullptr;  // The one that has been fitted, if it is still there.
-    int fitted_width_ = 0;
+    std::function<void(int)> on_row_;
     Rows rows_;
     std::vector<char const*> array_;
 };

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "dialogs/toolkit/widgets.h"
+#include "dialogs/toolkit/focus_ring.h"
 
 // Texts that are read and scrolled by the pointer, never edited: wrapped by words, with a vertical scroll bar that is
-// always there. All text is in the locale's encoding. Main thread only.
+// always there. All text is in the locale's encoding; carriage returns before line feeds are not shown. Main thread only.
 
 // `text` is copied; `arguments` adds what is particular.
 Widget CreateReadOnlyText(Widget parent, char const* name, char const* text, Arguments arguments);
@@ -16,6 +16,9 @@ void SetText(Widget text_widget, char const* text, View view = View::FromTheBegi
 // Lets the user drag the thumb, and scroll an insensitive text as well: its scroll bar would share its deafness to the
 // pointer. Once the text is realised.
 void MakeScrollable(Widget text_widget);
+
+// Scrolls by so many lines, or a page, or to an end.
+void ScrollText(Widget text_widget, Move move, int lines);
 
 // Lets buttons 1 and 3 both drag the thumb of a scroll bar continuously. A null one is left alone.
 void OverrideScrollbarTranslations(Widget scrollbar);

@@ -2,6 +2,7 @@
 
 #include <initializer_list>
 #include <type_traits>
+#include <vector>
 
 // Xt's names for a widget and for a widget class, repeated so that headers need no X header.
 struct _WidgetRec;
@@ -58,24 +59,46 @@ int BorderWidthOf(Widget widget);
 // `pixels` within what a size of the X protocol holds: 1 to 32,767.
 int ClampedSize(int pixels);
 
-int DisplayWidthInPixels();
-
+// Shows another text, in the locale's encoding. Of control characters only line feeds mean something in a label: others
+// are blanks, and a carriage return before a line feed is nothing.
 void SetLabel(Widget label, char const* text);
 
 // Puts a form's child so many pixels from the form's left edge.
 void PutAt(Widget child, int left);
+// Puts a form's child below another one.
+void PutBelow(Widget child, Widget above);
 
-// Makes an international label no wider than the display has room for, and as wide as its text where its own size has
-// wrapped around 16 bits or is none.
-void FitToDisplay(Widget label);
+// A managed label or button below another child of the form. `text`, in the locale's encoding, is copied. One without any
+// text is still something: a widget of no size, as a user's resources could make it, would end the process.
+Widget CreateLabel(Widget form, char const* name, WidgetClass kind, char const* text, Widget below);
+
+// The widest that something in a window can be to be seen whole.
+int WidestInDisplay();
+
+// Makes a label no wider than that: breaks its text into at most so many lines, or, for 0, cuts it off.
+void FitToDisplay(Widget label, int most_lines);
+
+// Gives a button, for good, the width that the widest of its own text and others needs, as far as the display has the
+// room.
+void FixWidth(Widget button, std::vector<char const*> const& other_texts);
+// Makes a widget narrower if it is wider than so many pixels, its border included.
+void CutToWidth(Widget widget, int outer_width);
+
+// The smallest size of a form in which every child that keeps its size is whole and those that follow the window are still
+// of use.
+struct Size {
+    int width;
+    int height;
+};
+Size SmallestSizeOf(Widget form);
 
 // Gives a managed widget a new width behind its parent's back and lets the parent lay it out again.
 void Rewiden(Widget widget, int width);
 
-// What becomes of a form's child when the window changes its size: it stays as it is at the top left, grows with the
-// window, or keeps its distance from the bottom right corner. A form left to itself stretches all of them in proportion,
-// buttons and gaps as well.
-enum class Anchor { TopLeft, AllSides, BottomRight };
+// What becomes of a form's child when the window changes its size: it keeps its size and its distance from a corner, or
+// follows the window in its width, or in both. A form left to itself stretches all of them in proportion, buttons and gaps
+// as well.
+enum class Anchor { TopLeft, TopWide, AllSides, BottomLeft, BottomRight };
 void AnchorInForm(Widget child, Anchor anchor);
 
 // Puts the translations, a table in a literal, before those that the widget has.

@@ -76,3 +76,10 @@ FixedAscii<48> IANAEncodingName(Local8Bit) {
 }
 
 }  // namespace UnixPlatform
+
+AutoNullTerminated<char> OneLine(AutoNullTerminated<char> const& text) {
+    Stringy line = text.c_str();
+    for (char& byte : line)
+        if (static_cast<unsigned char>(byte) < ' ') byte = ' ';
+    return {line.data(), line.data() + line.size()};
+}
