@@ -54,6 +54,8 @@ void AddButtons(Widget text) {
                                      [] { Answer(UICommandType::ConfirmationDeclined); }, {.below = text});
     Widget ok = window.AddButton("ok", ControlLiteral("OK").c_str(),
                                  [] { Answer(UICommandType::ConfirmationAccepted); }, {.below = text});
+    // A translation of either leaves the other its half.
+    for (Widget button : {cancel, ok}) CutToWidth(button, (WidthOf(text) - 8 * BorderWidthOf(text)) / 2);
     window.AlignRight(cancel, text);
     window.AlignRight(ok, text, WidthOf(cancel) + 6 * BorderWidthOf(text));
     window.SetFirstFocus(cancel);

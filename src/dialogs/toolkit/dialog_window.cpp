@@ -103,8 +103,8 @@ void DialogWindow::Open(char const* title) {
     form_ = Create(shell_, "form", formWidgetClass);
     focus_.Begin(form_);
     has_keyboard_ = false;
-    // Keys are asked for here, so that they come wherever the pointer is; they are filtered before they get anywhere.
-    OnEvents(shell_, StructureNotifyMask | FocusChangeMask | KeyPressMask | KeyReleaseMask,
+    // Keys and buttons are asked for here, so that they come wherever the pointer is; they are filtered before.
+    OnEvents(shell_, StructureNotifyMask | FocusChangeMask | KeyPressMask | KeyReleaseMask | ButtonPressMask,
              [this](XEvent const& event) { HandleEvent(event); });
     OnEvents(form_, ExposureMask, [this](XEvent const&) { focus_.Draw(); });
 }
@@ -148,6 +148,7 @@ Widget DialogWindow::AddButton(char const* name, char const* label, std::functio
 }
 
 void DialogWindow::AlignRight(Widget button, Widget above, int left_by) {
+    CutToWidth(button, WidthOf(above) + 2 * BorderWidthOf(above) - left_by);
     SetResources(button, {{XtNhorizDistance, BorderWidthOf(above) + WidthOf(above) - WidthOf(button) - left_by}});
 }
 

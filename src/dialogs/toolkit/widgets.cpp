@@ -154,8 +154,10 @@ int WidestInDisplay() {
 Widget CreateLabel(Widget form, char const* name, WidgetClass kind, char const* text, Widget below) {
     Widget label =
         Create(form, name, kind, {{XtNlabel, Showable(text).c_str()}, {XtNfromVert, below}, {XtNinternational, true}});
-    if (WidthOf(label) == 0) SetResources(label, {{XtNwidth, 1}});
-    if (HeightOf(label) == 0) SetResources(label, {{XtNheight, 1}});
+    if (WidthOf(label) == 0 || HeightOf(label) == 0)
+        SetResources(
+            label,
+            {{XtNwidth, std::max(WidthOf(label), 1)}, {XtNheight, std::max(HeightOf(label), 1)}, {XtNresize, false}});
     return label;
 }
 
@@ -189,13 +191,14 @@ void FixWidth(Widget button, std::vector<char const*> const& other_texts) {
     XtVaGetValues(button, XtNlabel, &text, nullptr);
     std::string const own = text;
     int widest = WidthOf(button);
-    SetResources(button, {{XtNresizable, true}});
+    SetResources(button, {{XtNresizable, true}, {XtNresize, !other_texts.empty()}});
     for (auto const* other : other_texts) {
         SetLabel(button, other);
         widest = std::max(widest, WidthOf(button));
     }
     SetLabel(button, own.c_str());
-    SetResources(button, {{XtNwidth, std::min(widest, WidestInDisplay())}, {XtNresize, false}, {XtNresizable, false}});
+    SetResources(button,
+                 {{XtNwidth, std::clamp(widest, 1, WidestInDisplay())}, {XtNresize, false}, {XtNresizable, false}});
 }
 
 void CutToWidth(Widget widget, int outer_width) {
