@@ -49,7 +49,8 @@ AutoNullTerminated<char> FirstLines(AutoNullTerminated<char> const& title) {
 
 Texts TextsFor(unsigned long long id) {
     Texts texts;
-    ActionRequest const* action = actions.FindAction(id);
+    // The very entry that is asked about: another of its ID may stand before it.
+    ActionRequest const* action = m_askedAbout ? &*m_askedAbout : actions.FindAction(id);
     if (action) texts.action_title = FirstLines(MakeLocalString<UTF8>(action->title));
     if (action && action->pre_action_message)
         texts.confirmation = MakeLocalString<UTF8>(action->pre_action_message->Ref());
@@ -124,10 +125,6 @@ void ShowConfirmationRequestDialog(unsigned long long id) {
     if (!display || shell) return;
     BuildOrReport("ConfirmationDialog", [&] { Build(id); });
     UpdateConfirmationRequestDialog();
-}
-
-bool IsConfirmationRequestDialogShown() {
-    return shell != nullptr;
 }
 
 void UpdateConfirmationRequestDialog() {}
