@@ -34,8 +34,7 @@ class PendingActions {
 
     void Append(ActionRequest request) { requests_.push_back(std::move(request)); }
     void Erase(std::size_t position);
-    // Erases the requests for which `leaves` is true, which may ask it more than once about each. Takes time linear in
-    // the list.
+    // Erases the requests for which `leaves` is true; it may be asked twice about each. Linear in the list.
     template <class Leaves>
     void EraseIf(Leaves leaves);
     void Clear();
