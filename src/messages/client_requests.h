@@ -41,7 +41,7 @@ struct ActionRequest {
 };
 
 // Reads the fields that the element has; the others keep what they hold. A malformed number or time throws what its
-// reader throws (numerals.h, time_text.h), and the fields before it stay read.
+// reader throws (numerals.h, text_to_time.h), and the fields before it stay read.
 void XMLSerialize(XMLElement const& element, ActionRequest& request);
 
 class XMLElement;

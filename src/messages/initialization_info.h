@@ -46,8 +46,8 @@ class XMLElement;
 
 // The settings that the client hands over at the start. Everything is zero, false or null until read.
 //
-// No dialog of this program reads the history, balloon, tray and activity settings: they belong to the client's message
-// and are kept complete.
+// This program heeds the reminder, snooze and locale settings alone; the others belong to the client's message and are
+// kept complete.
 struct InitialUISettings {
     TimeInterval remind_interval{0};
     NullOr<TimeObject> remind_time;
