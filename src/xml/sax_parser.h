@@ -87,10 +87,7 @@ class SAXParser : public SimpleXMLParserPL {
     explicit SAXParser(XMLReceiver& target) : target_(target) {}
 
     // Feeds the next bytes of the document.
-    void Parse(UStringRef<UTF8> text) {
-        auto bytes = text.AsStringView();
-        Feed(bytes.data(), bytes.data() + bytes.size());
-    }
+    void Parse(UStringRef<UTF8> text) { SimpleXMLParserPL::Parse(text.AsData()); }
 
     void StartElement(ConstData name, Attributes attributes) override;
     void EndElement(ConstData) override { target_.EndElement(); }
