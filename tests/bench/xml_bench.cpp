@@ -175,7 +175,7 @@ void WriteOwn(benchmark::State& state) {
     for (auto _ : state) {
         UStringBuilder<UTF8> builder;
         XMLWriter(builder, XMLFormatStyle::Indented).WriteXMLElement(*tree);
-        benchmark::DoNotOptimize(builder.size());
+        benchmark::DoNotOptimize(builder.Ref().size());
     }
 }
 BENCHMARK(WriteOwn)->Apply(Sizes);
