@@ -19,7 +19,7 @@ class TranscodedBlock {
 
     // Makes sure that `units` more can be put.
     void MakeRoom(std::size_t units) {
-        if (size_ + units > capacity) Flush();
+        if (size_ + units > kCapacity) Flush();
     }
     void Flush() {
         if (size_ == 0) return;
@@ -27,11 +27,11 @@ class TranscodedBlock {
     }
 
   private:
-    static constexpr std::size_t capacity = 4096 / sizeof(typename E::Unit);
+    static constexpr std::size_t kCapacity = 4096 / sizeof(typename E::Unit);
 
     UTextReceiver<E>& receiver_;
     std::size_t size_ = 0;
-    typename E::Unit units_[capacity];
+    typename E::Unit units_[kCapacity];
 };
 
 // Calls put(block, unit) for each of `units` and hands the output on. One call puts at most `Longest` units.
@@ -52,7 +52,7 @@ struct SequenceForm {
     UTF8::Unit lead_mask, lead;
     UTF32::Unit value_mask;
 };
-constexpr SequenceForm sequence_forms[] = {{0xE0, 0xC0, 0x7FF}, {0xF0, 0xE0, 0xFFFF}, {0xF8, 0xF0, 0x1FFFFF}};
+constexpr SequenceForm kSequenceForms[] = {{0xE0, 0xC0, 0x7FF}, {0xF0, 0xE0, 0xFFFF}, {0xF8, 0xF0, 0x1FFFFF}};
 
 bool IsHighSurrogate(UTF16::Unit unit) {
     return (unit & 0xFC00) == 0xD800;
@@ -88,7 +88,7 @@ bool GenericTranscoder<UTF32, UTF8>::CompletesSequence(UTF8::Unit byte) {
     }
     bits_ = bits_ << 6 | (byte & 0x3F);
     intact_ = intact_ && (byte & 0xC0) == 0x80;
-    auto const& form = sequence_forms[count_ - 1];
+    auto const& form = kSequenceForms[count_ - 1];
     bool complete = intact_ && (lead_ & form.lead_mask) == form.lead;
     bool last = ++count_ == 4;
     if (!complete && !last) return false;
