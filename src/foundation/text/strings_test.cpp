@@ -27,8 +27,15 @@ TEST(SharedUString, CopiesStandOverOneBufferUntilTheLastGoes) {
     EXPECT_EQ(copy.begin(), moved.begin());
     assigned = copy;
     copy = none;
-    moved = static_cast<Shared const&>(moved);
     EXPECT_TRUE(copy.empty() && moved == Ref("abc") && assigned == moved);
+}
+
+TEST(SharingLink, IsAloneBeforeItIsCopiedAndWhenTheCopiesHaveLeft) {
+    SharingLink link;
+    EXPECT_TRUE(link.Alone());
+    SharingLink copy(link);
+    EXPECT_FALSE(link.Alone() || copy.Alone() || copy.Leave());
+    EXPECT_TRUE(link.Alone() && link.Leave());
 }
 
 TEST(SharedUString, ThreadsCopyAndDropOneStringAtTheSameTime) {
