@@ -11,9 +11,10 @@ UStringRef<UTF8> UTF8Of(ConstData bytes) {
 }  // namespace
 
 XMLAttributes::XMLAttributes(std::vector<Attribute> attributes) : attributes_(std::move(attributes)) {
-    std::ranges::stable_sort(attributes_, [](auto& left, auto& right) { return left.first < right.first; });
-    auto repeated = std::ranges::unique(attributes_, {}, &Attribute::first);
-    attributes_.erase(repeated.begin(), repeated.end());
+    auto precedes = [](auto& left, auto& right) { return left.first < right.first; };
+    auto repeats = [](auto& left, auto& right) { return left.first == right.first; };
+    std::stable_sort(attributes_.begin(), attributes_.end(), precedes);
+    attributes_.erase(std::unique(attributes_.begin(), attributes_.end(), repeats), attributes_.end());
 }
 
 NullOrConstRef<SharedUString<UTF8>> XMLAttributes::Find(UStringRef<UTF8> name) const {

@@ -18,7 +18,7 @@ static XMLElement TakeTree(std::string_view& input) {
         auto const attribute = TakeName(input);
         attributes.emplace_back(Text(attribute), Text(TakeUntil(input, '|')));
     }
-    XMLElement tree(Text(name), XMLAttributes(attributes));
+    XMLElement tree{Text(name), XMLAttributes(attributes)};
     for (char step; (step = TakeInteger<char>(input)) == '<' || step == '=';) {
         if (step == '<') tree.AddChildElement(TakeTree(input));
         if (step == '=') tree.AppendCharacters(Text(TakeUntil(input, '|')));
