@@ -6,6 +6,16 @@
 
 #include "xml/xml_writer.h"
 
+namespace {
+
+void WriteBeginning(XMLWriter& writer, XMLElement const& element) {
+    writer.BeginElement(element.Name());
+    for (auto& [name, value] : element.Attributes()) writer.AddAttribute(name, value);
+    writer.WriteString(element.GetValue());
+}
+
+}  // namespace
+
 // Otherwise a growing list of children would copy whole trees.
 static_assert(std::is_nothrow_move_constructible_v<XMLElement>);
 
@@ -67,16 +77,6 @@ void XMLElement::DropChildren() noexcept {
         children_ = std::move(orphans);
     }
 }
-
-namespace {
-
-void WriteBeginning(XMLWriter& writer, XMLElement const& element) {
-    writer.BeginElement(element.Name());
-    for (auto& [name, value] : element.Attributes()) writer.AddAttribute(name, value);
-    writer.WriteString(element.GetValue());
-}
-
-}  // namespace
 
 XMLWriter& XMLWriter::WriteXMLElement(XMLElement const& element) {
     // The open elements, each with the number of its children already begun.

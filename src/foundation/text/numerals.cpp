@@ -57,11 +57,11 @@ T ReadOr(T fallback, ConstData text) {
 }
 
 template <std::size_t Capacity>
-void AppendDigits(FixedAscii<Capacity>& numeral, unsigned long long value, int base, unsigned minDigits) {
+void AppendDigits(FixedAscii<Capacity>& numeral, unsigned long long value, int base, unsigned min_digits) {
     char digits[20];
     char* end = value ? std::to_chars(digits, digits + sizeof digits, value, base).ptr : digits;
     auto count = static_cast<std::size_t>(end - digits);
-    for (std::size_t have = count; have < minDigits; ++have) numeral.Append('0');
+    for (std::size_t have = count; have < min_digits; ++have) numeral.Append('0');
     numeral.Append(std::string_view(digits, count));
 }
 

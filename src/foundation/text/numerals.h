@@ -11,8 +11,8 @@
 // Reading and writing whole numbers as plain ASCII numerals.
 //
 // There is no locale and no tolerance: no blank, separator or prefix is accepted anywhere, a sign only by the signed
-// readers; leading zeros are ignored. Every reader tells "not a numeral" from "too large for the target", and examines
-// no byte twice. Any thread may call.
+// readers; leading zeros are ignored. Every reader tells "not a numeral" from "too large for the target". Any thread may
+// call.
 
 // The text is not a numeral of the kind asked for. An empty text never is one.
 class NotANumeral : public DebuggableException {};

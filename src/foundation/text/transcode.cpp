@@ -7,6 +7,8 @@
 
 #include "foundation/text/ustring_builder.h"
 
+namespace {
+
 // The block of 4,096 bytes that a transcoder collects its output in before handing it on.
 //
 // Output that was not flushed is dropped with the block: nothing is handed on while an exception passes.
@@ -45,8 +47,6 @@ void TranscodeEach(std::span<Unit const> units, UTextReceiver<E>& receiver, Put 
     block.Flush();
 }
 
-namespace {
-
 // The sequences of two, three and four bytes: how the first byte begins, and the bits that the code point has.
 struct SequenceForm {
     UTF8::Unit lead_mask, lead;
@@ -60,6 +60,43 @@ bool IsHighSurrogate(UTF16::Unit unit) {
 
 bool IsLowSurrogate(UTF16::Unit unit) {
     return (unit & 0xFC00) == 0xDC00;
+}
+
+void RequireEncodable(UTF32::Unit code) {
+    if ((code >= 0xD800 && code <= 0xDFFF) || code >= 0x110000) throw InvalidTextEncoding();
+}
+
+UTF32::Unit Continuation(UTF32::Unit bits) {
+    return 0x80 | (bits & 0x3F);
+}
+
+void PutUTF8(TranscodedBlock<UTF8>& block, UTF32::Unit code) {
+    RequireEncodable(code);
+    if (code < 0x80) return block.Put(code);
+    if (code < 0x800) {
+        block.Put(0xC0 | code >> 6);
+    } else if (code < 0x10000) {
+        block.Put(0xE0 | code >> 12);
+        block.Put(Continuation(code >> 6));
+    } else {
+        block.Put(0xF0 | code >> 18);
+        block.Put(Continuation(code >> 12));
+        block.Put(Continuation(code >> 6));
+    }
+    block.Put(Continuation(code));
+}
+
+void PutUTF16(TranscodedBlock<UTF16>& block, UTF32::Unit code) {
+    RequireEncodable(code);
+    if (code < 0x10000) return block.Put(code);
+    block.Put(0xD800 + ((code - 0x10000) >> 10));
+    block.Put(0xDC00 + ((code - 0x10000) & 0x3FF));
+}
+
+template <class To>
+void PutAscii(TranscodedBlock<To>& block, USAscii::Unit byte) {
+    if (byte >= 0x80) throw InvalidTextEncoding();
+    block.Put(byte);
 }
 
 }  // namespace
@@ -127,47 +164,6 @@ void GenericTranscoder<UTF32, UTF16>::ReceiveEnd() {
     if (std::exchange(high_, 0) != 0) throw InvalidTextEncoding();
     StreamTranscoder::ReceiveEnd();
 }
-
-namespace {
-
-void RequireEncodable(UTF32::Unit code) {
-    if ((code >= 0xD800 && code <= 0xDFFF) || code >= 0x110000) throw InvalidTextEncoding();
-}
-
-UTF32::Unit Continuation(UTF32::Unit bits) {
-    return 0x80 | (bits & 0x3F);
-}
-
-void PutUTF8(TranscodedBlock<UTF8>& block, UTF32::Unit code) {
-    RequireEncodable(code);
-    if (code < 0x80) return block.Put(code);
-    if (code < 0x800) {
-        block.Put(0xC0 | code >> 6);
-    } else if (code < 0x10000) {
-        block.Put(0xE0 | code >> 12);
-        block.Put(Continuation(code >> 6));
-    } else {
-        block.Put(0xF0 | code >> 18);
-        block.Put(Continuation(code >> 12));
-        block.Put(Continuation(code >> 6));
-    }
-    block.Put(Continuation(code));
-}
-
-void PutUTF16(TranscodedBlock<UTF16>& block, UTF32::Unit code) {
-    RequireEncodable(code);
-    if (code < 0x10000) return block.Put(code);
-    block.Put(0xD800 + ((code - 0x10000) >> 10));
-    block.Put(0xDC00 + ((code - 0x10000) & 0x3FF));
-}
-
-template <class To>
-void PutAscii(TranscodedBlock<To>& block, USAscii::Unit byte) {
-    if (byte >= 0x80) throw InvalidTextEncoding();
-    block.Put(byte);
-}
-
-}  // namespace
 
 void GenericTranscoder<UTF8, UTF32>::Receive(ConstArrayOf<UTF32::Unit> units) {
     TranscodeEach<4>(units, Receiver(), PutUTF8);
