@@ -40,4 +40,23 @@ TEST(FormatOverrideContextTest, TheScopeAddedLastAnswersFirst) {
     EXPECT_EQ(InContext(context, "a") + InContext(context, "b"), "default2");
 }
 
+TEST(ListTest, AWalkGoesOnWhereverNodesComeAndGo) {
+    struct Node : ListNode {};
+    List list;
+    Node nodes[3];
+    for (auto& node : nodes) list.PushFront(node);
+    auto removed = std::make_unique<Node>();
+    list.PushFront(*removed);
+    ListIterator outer(list), inner(list);
+    EXPECT_EQ(inner.Next(), removed.get());
+    removed.reset();
+    EXPECT_EQ(outer.Next(), &nodes[2]);
+    list.Remove(nodes[1]);
+    list.Remove(nodes[2]);
+    list.PushFront(nodes[2]);
+    EXPECT_EQ(outer.Next(), &nodes[0]);
+    EXPECT_EQ(outer.Next(), nullptr);
+    EXPECT_EQ(inner.Next(), &nodes[0]);
+}
+
 }  // namespace
