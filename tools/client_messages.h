@@ -21,8 +21,6 @@ std::string Document(std::string_view elements);
 // As messages carry instants: Sat, 21 Nov 2026 02:16:00 +0000.
 std::string TimeText(std::chrono::system_clock::time_point time);
 
-std::string Base64(std::string_view bytes);
-
 // The element that carries one support file.
 std::string SupportFile(std::string_view name, std::string_view bytes);
 
@@ -34,7 +32,7 @@ std::string SupportFile(std::string_view name, std::string_view bytes);
 //     remove action|offer|message|all ID
 //     quiet start= end=          quiet end
 //     initialize base= remind= remind-time= snooze locale
-std::string MessageFor(ScenarioLine const& line, std::string_view support_files);
+std::string MessageFor(ScenarioLine const& line, std::string_view support_files = {});
 
 // What the program answers: the name of the message and its fields.
 struct Answer {
@@ -44,7 +42,7 @@ struct Answer {
     std::string Text() const;
 };
 
-// Reads the plain form that the program writes: no attributes, no comments, text only in elements without children.
-Answer ReadAnswer(std::string_view document);
+// Throws std::runtime_error for what is no document.
+Answer ReadAnswer(std::string_view text);
 
 }  // namespace tools

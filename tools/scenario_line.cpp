@@ -53,19 +53,17 @@ ScenarioLine ParseScenarioLine(std::string_view text) {
 }
 
 std::chrono::seconds ParseSpan(std::string const& text) {
-    size_t used = 0;
-    long long count = 0;
+    static std::map<std::string, std::chrono::seconds> const units = {{"s", std::chrono::seconds(1)},
+                                                                      {"m", std::chrono::minutes(1)},
+                                                                      {"h", std::chrono::hours(1)},
+                                                                      {"d", std::chrono::days(1)}};
     try {
-        count = std::stoll(text, &used);
+        size_t used = 0;
+        long long const count = std::stoll(text, &used);
+        return count * units.at(text.substr(used));
     } catch (std::logic_error const&) {
-        used = text.size();
+        throw std::runtime_error("not a span of time: " + text);
     }
-    std::string unit = text.substr(used);
-    if (unit == "s") return std::chrono::seconds(count);
-    if (unit == "m") return std::chrono::minutes(count);
-    if (unit == "h") return std::chrono::hours(count);
-    if (unit == "d") return std::chrono::days(count);
-    throw std::runtime_error("not a span of time: " + text);
 }
 
 }  // namespace tools

@@ -37,8 +37,8 @@ TEST_F(Initialization, EmptiesTheBaseDirectoryAndFillsIt) {
     Play("expect ActionTaken ID=1");
     EXPECT_EQ(FilesIn(BaseDirectory()), (std::set{BaseDirectory() / "_brand.xlat", BaseDirectory() / "empty.txt",
                                                   BaseDirectory() / "page.html"}));
-    EXPECT_EQ(Read(BaseDirectory() / "page.html"), "<p>second</p>");
-    EXPECT_EQ(Read(Directory() / "outside" / "kept.txt"), "kept");
+    EXPECT_EQ(tools::ReadFile(BaseDirectory() / "page.html"), "<p>second</p>");
+    EXPECT_EQ(tools::ReadFile(Directory() / "outside" / "kept.txt"), "kept");
 }
 
 TEST_F(Initialization, RequestsBeforeItAndBesideItAreShown) {
@@ -77,9 +77,9 @@ TEST_P(FailingInitialization, IsFollowedByOneThatSucceeds) {
         return std::filesystem::exists(BaseDirectory() / "a.txt");
     }));
     Play("request id=1 title=One force deadline=-1h\nexpect ActionTaken ID=1");
-    EXPECT_EQ(Read(Directory() / "full" / "old.txt"), "old");
-    EXPECT_EQ(Read(Directory() / "file"), "in the way");
-    EXPECT_EQ(Read(Directory() / "half" / "a"), GetParam().first == std::string("HalfDone") ? "a" : "");
+    EXPECT_EQ(tools::ReadFile(Directory() / "full" / "old.txt"), "old");
+    EXPECT_EQ(tools::ReadFile(Directory() / "file"), "in the way");
+    EXPECT_EQ(std::filesystem::exists(Directory() / "half" / "a"), GetParam().first == std::string("HalfDone"));
 }
 
 std::string const in_full = "<BaseDirectory>~/full</BaseDirectory>";

@@ -1,7 +1,5 @@
-#include <array>
 #include <iostream>
 #include <map>
-#include <stdexcept>
 
 #include "tools/soak/subject.h"
 
@@ -9,55 +7,16 @@ namespace tools {
 
 namespace {
 
-Milliseconds const patience = std::chrono::seconds(30);
+constexpr Milliseconds kPatience = std::chrono::seconds(30);
 
 // Says it again and again, because the program may drop what comes along with something malformed.
 template <class Say>
 bool SayUntilItEnds(Subject& subject, Say say) {
-    subject.Client().Initialize();
-    return WaitUntil(patience, [&] {
+    subject.client.Initialize();
+    return WaitUntil(kPatience, [&] {
         say();
-        return subject.Client().Program().WaitForEnd(std::chrono::seconds(1)) != "running";
+        return subject.client.Program().WaitForEnd(std::chrono::seconds(1)) != "running";
     });
-}
-
-bool ClientCloses(Subject& subject) {
-    subject.Client().Program().CloseReceiving();
-    subject.Client().Program().CloseSending();
-    return true;
-}
-bool ClientStopsSending(Subject& subject) {
-    subject.Client().Program().CloseSending();
-    return true;
-}
-bool ClientStopsReading(Subject& subject) {
-    subject.Client().Program().CloseReceiving();
-    return SayUntilItEnds(subject, [&] { subject.Client().SendOverdue(); });
-}
-bool ClientSendsTooMuch(Subject& subject) {
-    return subject.Client().Program().SendBytes("\xff\xff\xff\xff");
-}
-bool NothingCanBeShown(Subject& subject) {
-    return SayUntilItEnds(subject, [&] { subject.Client().SendUnshowable(); });
-}
-bool ServerDies(Subject& subject) {
-    bool const was_there = subject.User().SeesProgram();
-    subject.Display().Kill();
-    return was_there;
-}
-bool ConnectionIsKilled(Subject& subject) {
-    bool const was_there = subject.User().SeesProgram();
-    subject.User().KillTheConnection();
-    return was_there;
-}
-bool UserCloses(Subject& subject) {
-    subject.User().CloseAWindow();
-    return false;
-}
-bool WindowIsDestroyed(Subject& subject) {
-    subject.User().DestroyAWindow();
-    subject.Live(std::chrono::seconds(2));
-    return false;
 }
 
 struct Ending {
@@ -68,22 +27,59 @@ struct Ending {
     bool may_fail = false;
 };
 
-std::array const endings = {Ending{"client closes", ClientCloses},
-                            Ending{"client stops sending", ClientStopsSending},
-                            Ending{"client stops reading", ClientStopsReading},
-                            Ending{"client sends too much", ClientSendsTooMuch},
-                            Ending{"nothing can be shown", NothingCanBeShown},
-                            Ending{"server dies", ServerDies, true},
-                            Ending{"connection is killed", ConnectionIsKilled},
-                            Ending{"user closes a window", UserCloses},
-                            Ending{"window is destroyed", WindowIsDestroyed, true}};
+Ending const kEndings[] = {
+    {"client closes",
+     [](Subject& subject) {
+         subject.client.Program().CloseReceiving();
+         subject.client.Program().CloseSending();
+         return true;
+     }},
+    {"client stops sending",
+     [](Subject& subject) {
+         subject.client.Program().CloseSending();
+         return true;
+     }},
+    {"client stops reading",
+     [](Subject& subject) {
+         subject.client.Program().CloseReceiving();
+         return SayUntilItEnds(subject, [&] { subject.client.SendOverdue(); });
+     }},
+    {"client sends too much", [](Subject& subject) { return subject.client.Program().SendBytes("\xff\xff\xff\xff"); }},
+    {"nothing can be shown",
+     [](Subject& subject) { return SayUntilItEnds(subject, [&] { subject.client.SendUnshowable(); }); }},
+    {"server dies",
+     [](Subject& subject) {
+         bool const was_there = subject.user.SeesProgram();
+         subject.display.Kill();
+         return was_there;
+     },
+     true},
+    {"connection is killed",
+     [](Subject& subject) {
+         bool const was_there = subject.user.SeesProgram();
+         subject.user.KillTheConnection();
+         return was_there;
+     }},
+    {"user closes a window",
+     [](Subject& subject) {
+         subject.user.CloseAWindow();
+         return false;
+     }},
+    {"window is destroyed",
+     [](Subject& subject) {
+         subject.user.DestroyAWindow();
+         subject.Live(std::chrono::seconds(2));
+         return false;
+     },
+     true},
+};
 
 std::string Bring(Subject& subject, Ending const& ending) {
-    if (subject.Client().Roll(5) > 0) subject.Client().Initialize();
-    subject.Live(Milliseconds(subject.Client().Roll(subject.Client().Roll(2) ? 1500 : 6000)));
+    if (subject.client.dice.Roll(5) > 0) subject.client.Initialize();
+    subject.Live(Milliseconds(subject.client.dice.Roll(subject.client.dice.Roll(2) ? 1500 : 6000)));
     bool const alone = ending.bring_about(subject);
-    if (!alone && subject.WaitForEnd(std::chrono::seconds(4)) == "running") subject.Client().Program().CloseSending();
-    return subject.WaitForEnd(patience);
+    if (!alone && subject.WaitForEnd(std::chrono::seconds(4)) == "running") subject.client.Program().CloseSending();
+    return subject.WaitForEnd(kPatience);
 }
 
 std::string Bring(SoakOptions const& options, Ending const& ending) try {
@@ -99,7 +95,7 @@ bool EndManyTimes(SoakOptions options, int times) {
     std::map<std::string, int> outcomes;
     bool right = true;
     for (int i = 0; i < times; ++i, ++options.seed) {
-        Ending const& ending = endings[static_cast<size_t>(i) % endings.size()];
+        Ending const& ending = kEndings[static_cast<size_t>(i) % std::size(kEndings)];
         std::string const outcome = Bring(options, ending);
         ++outcomes[std::string(ending.name) + ": " + outcome];
         if (outcome == "exit 0" || (outcome == "exit 255" && ending.may_fail)) continue;
