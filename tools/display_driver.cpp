@@ -36,31 +36,18 @@ void DisplayDriver::WaitUntilGone(std::string const& name, Milliseconds limit) {
     throw std::runtime_error("the window " + name + " stays");
 }
 
-std::map<std::string, RemoteWidget> DisplayDriver::WidgetsByPath(Window shell) {
-    std::map<std::string, RemoteWidget> widgets;
-    std::vector<std::string> parts;
-    for (auto& widget : editres_.ReadTree(shell, kPatience)) {
-        parts.resize(widget.ids.size() - 1);
-        parts.push_back(widget.name.empty() ? widget.class_name : widget.name);
-        std::string path;
-        for (size_t part = 1; part < parts.size(); ++part) path += (part > 1 ? "." : "") + parts[part];
-        widgets.emplace(path, widget);
-    }
-    return widgets;
-}
-
 RemoteWidget DisplayDriver::FindWidget(Window shell, std::string const& path) {
-    auto widgets = WidgetsByPath(shell);
-    auto found = widgets.find(path);
-    if (found == widgets.end()) throw std::runtime_error("no widget " + path);
+    auto const tree = editres_.ReadTree(shell);
+    auto const found = tree.find(path);
+    if (found == tree.end()) throw std::runtime_error("no widget " + path);
     return found->second;
 }
 
 std::set<std::string> DisplayDriver::SensitiveControls(Window shell) {
     std::set<std::string> sensitive;
-    for (auto const& [path, widget] : WidgetsByPath(shell)) {
+    for (auto const& [path, widget] : editres_.ReadTree(shell)) {
         if (widget.class_name != "List" && widget.class_name != "Command") continue;
-        if (editres_.ReadResource(shell, widget, "sensitive", kPatience) == "true") sensitive.insert(path);
+        if (editres_.ReadResource(shell, widget, "sensitive") == "true") sensitive.insert(path);
     }
     return sensitive;
 }
@@ -76,11 +63,11 @@ Window DisplayDriver::WindowOf(Window shell, std::string const& path) {
 }
 
 std::string DisplayDriver::ReadResource(Window shell, std::string const& path, std::string const& resource) {
-    return editres_.ReadResource(shell, FindWidget(shell, path), resource, kPatience);
+    return editres_.ReadResource(shell, FindWidget(shell, path), resource);
 }
 
 void DisplayDriver::WaitUntilDrawn(Window shell) {
-    editres_.ReadTree(shell, kPatience);
+    editres_.ReadTree(shell);
 }
 
 // Moves the pointer there once the window really is there: it may just be being moved, or still be covered.

@@ -3,7 +3,6 @@
 #include <X11/Xlib.h>
 
 #include <filesystem>
-#include <map>
 #include <memory>
 #include <set>
 #include <string>
@@ -11,6 +10,7 @@
 
 #include "tools/editres.h"
 #include "tools/pixels.h"
+#include "tools/waiting.h"
 #include "tools/windows.h"
 
 namespace tools {
@@ -92,7 +92,6 @@ class DisplayDriver {
     };
 
     Window WindowOf(Window shell, std::string const& path);
-    std::map<std::string, RemoteWidget> WidgetsByPath(Window shell);
     RemoteWidget FindWidget(Window shell, std::string const& path);
     std::vector<TextLine> LinesOf(Window shell, Window list, size_t least);
     bool AnswersPointer(Window shell, Window button);

@@ -25,37 +25,31 @@ std::string Summary(ActionRequest const& action, int family) {
     return std::string(text.AsStringView());
 }
 
-// Which rows the flags choose: without a deadline, with one two hours away, with one two minutes away, with a forced one.
+// Which rows of each family are meant without work to save; with it, it is the row behind each. The columns: without a
+// deadline, with one two hours away, with one two minutes away, with a forced one.
 struct Rows {
-    char const* flags;  // save, restart, shutdown
-    int one[4], selected[4], pending[4];
+    bool restart, shutdown;
+    int of[3][4];
 };
-constexpr Rows kRows[] = {{"", {0, 2, 12, 18}, {0, 2, 12, 18}, {0, 2, 12, 18}},
-                          {"s", {1, 3, 13, 19}, {1, 3, 13, 19}, {1, 3, 13, 19}},
-                          {"r", {4, 6, 14, 20}, {4, 6, 14, 20}, {4, 2, 14, 20}},
-                          {"sr", {5, 7, 15, 21}, {5, 7, 15, 21}, {5, 3, 15, 21}},
-                          {"d", {8, 10, 16, 22}, {8, 10, 16, 22}, {8, 10, 16, 22}},
-                          {"sd", {9, 11, 17, 23}, {9, 11, 17, 23}, {9, 11, 17, 23}},
-                          {"rd", {4, 6, 14, 20}, {8, 10, 16, 22}, {8, 10, 16, 22}},
-                          {"srd", {5, 7, 15, 21}, {9, 11, 17, 23}, {9, 11, 17, 23}}};
+constexpr Rows kRows[] = {{false, false, {{0, 2, 12, 18}, {0, 2, 12, 18}, {0, 2, 12, 18}}},
+                          {true, false, {{4, 6, 14, 20}, {4, 6, 14, 20}, {4, 2, 14, 20}}},
+                          {false, true, {{8, 10, 16, 22}, {8, 10, 16, 22}, {8, 10, 16, 22}}},
+                          {true, true, {{4, 6, 14, 20}, {8, 10, 16, 22}, {8, 10, 16, 22}}}};
+ActionSentences const* const families[] = {&kOneActionSentences, &kSelectedActionsSentences, &kPendingActionsSentences};
 
 TEST(ActionSummaryTest, TheFlagsAndTheDeadlineChooseTheSentence) {
-    ActionSentences const* const families[] = {&kOneActionSentences, &kSelectedActionsSentences,
-                                               &kPendingActionsSentences};
     ActionRequest const due[] = {{}, Due(0, 7260, false), Due(0, 120, false), Due(0, 7260, true)};
     for (Rows const& rows : kRows)
-        for (int family = 0; family < 3; ++family)
-            for (int when = 0; when < 4; ++when) {
-                ActionRequest action = due[when];
-                std::string_view const flags = rows.flags;
-                action.request_save = flags.find('s') != flags.npos;
-                action.restart = flags.find('r') != flags.npos;
-                action.shutdown = flags.find('d') != flags.npos;
-                int const* const expected[] = {rows.one, rows.selected, rows.pending};
-                std::string sentence = (*families[family])[static_cast<std::size_t>(expected[family][when])];
-                if (auto at = sentence.find("{DeadlineText}"); at != sentence.npos) sentence.replace(at, 14, "2 hours");
-                EXPECT_EQ(Summary(action, family), sentence) << rows.flags << family << when;
-            }
+        for (int i = 0; i < 24; ++i) {
+            int const family = i / 8, when = i / 2 % 4, save = i % 2;
+            ActionRequest action = due[when];
+            action.request_save = save == 1;
+            action.restart = rows.restart;
+            action.shutdown = rows.shutdown;
+            std::string sentence = (*families[family])[static_cast<std::size_t>(rows.of[family][when] + save)];
+            if (auto at = sentence.find("{DeadlineText}"); at != sentence.npos) sentence.replace(at, 14, "2 hours");
+            EXPECT_EQ(Summary(action, family), sentence) << family << when;
+        }
 }
 
 TEST(ActionSummaryTest, OfASetTheEarliestDeadlineDecidesAndTheLowestIDAmongEquals) {
