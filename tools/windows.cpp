@@ -7,7 +7,7 @@ namespace tools {
 
 namespace {
 
-int const deepest_frame = 3;
+constexpr int kDeepestFrame = 3;
 
 struct Family {
     Window parent = None;
@@ -59,7 +59,7 @@ void IgnoreErrors(Display* display) {
 }
 
 Window FindTopLevel(Display* display, std::string const& name) {
-    return Search(display, DefaultRootWindow(display), name, deepest_frame);
+    return Search(display, DefaultRootWindow(display), name, kDeepestFrame);
 }
 
 std::string NameOf(Display* display, Window window) {

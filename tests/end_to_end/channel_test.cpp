@@ -6,7 +6,7 @@ TEST_F(Channel, TheLargestFrameIsAcceptedAndOneByteMoreEndsTheProgram) {
     // A locale that is none makes the toolkit complain, but not into the channel.
     Start({{"LC_ALL", "no_SUCH.locale"}});
     Play("initialize locale");
-    std::string const document = Overdue(1), blanks(largest_payload - document.size(), ' ');
+    std::string const document = Overdue(1), blanks(kLargestPayload - document.size(), ' ');
     Program().SendFrame(blanks + document);
     Play("expect ActionTaken ID=1");
     Program().SendFrame(blanks + document + " ");

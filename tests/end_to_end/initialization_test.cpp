@@ -82,18 +82,18 @@ TEST_P(FailingInitialization, IsFollowedByOneThatSucceeds) {
     EXPECT_EQ(std::filesystem::exists(Directory() / "half" / "a"), GetParam().first == std::string("HalfDone"));
 }
 
-std::string const in_full = "<BaseDirectory>~/full</BaseDirectory>";
-std::string const one_then_none = tools::SupportFile("a", "a") + tools::SupportFile(std::string(256, 'b'), "b");
+std::string const kInFull = "<BaseDirectory>~/full</BaseDirectory>";
+std::string const kOneThenNone = tools::SupportFile("a", "a") + tools::SupportFile(std::string(256, 'b'), "b");
 
 INSTANTIATE_TEST_SUITE_P(
     All, FailingInitialization,
     ::testing::Values(Failure("NoBase", ""), Failure("EmptyBase", "<BaseDirectory></BaseDirectory>"),
                       Failure("RelativeBase", "<BaseDirectory>full</BaseDirectory>"),
                       Failure("FileInTheWay", "<BaseDirectory>~/file/below</BaseDirectory>"),
-                      Failure("HalfDone", "<BaseDirectory>~/half</BaseDirectory>" + one_then_none),
-                      Failure("NameLeadsOut", in_full + tools::SupportFile("../file", "over it")),
+                      Failure("HalfDone", "<BaseDirectory>~/half</BaseDirectory>" + kOneThenNone),
+                      Failure("NameLeadsOut", kInFull + tools::SupportFile("../file", "over it")),
                       Failure("NoDuration",
-                              in_full + tools::Element("InitialUISettings", "<RemindInterval>soon</RemindInterval>"))),
+                              kInFull + tools::Element("InitialUISettings", "<RemindInterval>soon</RemindInterval>"))),
     [](auto const& of) { return of.param.first; });
 
 struct LocaleCase {

@@ -46,7 +46,7 @@ class ProgramTest : public ::testing::Test {
     std::filesystem::path BaseDirectory() const { return Directory() / "base"; }
 
     // The longest document that the program accepts, in bytes.
-    static constexpr size_t largest_payload = 2097152;
+    static constexpr size_t kLargestPayload = 2097152;
     // The unit over and over, as often as that size holds it.
     static std::string Repeated(std::string_view unit, size_t size);
     // The text with `by` in place of each `part`.

@@ -11,74 +11,59 @@ constexpr Milliseconds kPatience = std::chrono::seconds(30);
 
 // Says it again and again, because the program may drop what comes along with something malformed.
 template <class Say>
-bool SayUntilItEnds(Subject& subject, Say say) {
+void SayUntilItEnds(Subject& subject, Say say) {
     subject.client.Initialize();
-    return WaitUntil(kPatience, [&] {
+    WaitUntil(kPatience, [&] {
         say();
         return subject.client.Program().WaitForEnd(std::chrono::seconds(1)) != "running";
     });
 }
 
+// Whether the program must end by this alone; where it need not, its client closes afterwards.
+enum class Ends { Surely, IfOnDisplay, Perhaps };
+
 struct Ending {
     char const* name;
-    // Answers whether the program must end by this alone; where it need not, its client closes afterwards.
-    bool (*bring_about)(Subject&);
+    Ends ends;
+    void (*bring_about)(Subject&);
     // Whether the program may end with 255: without a display, or by a protocol error.
     bool may_fail = false;
 };
 
 Ending const kEndings[] = {
-    {"client closes",
+    {"client closes", Ends::Surely,
      [](Subject& subject) {
          subject.client.Program().CloseReceiving();
          subject.client.Program().CloseSending();
-         return true;
      }},
-    {"client stops sending",
-     [](Subject& subject) {
-         subject.client.Program().CloseSending();
-         return true;
-     }},
-    {"client stops reading",
+    {"client stops sending", Ends::Surely, [](Subject& subject) { subject.client.Program().CloseSending(); }},
+    {"client stops reading", Ends::Surely,
      [](Subject& subject) {
          subject.client.Program().CloseReceiving();
-         return SayUntilItEnds(subject, [&] { subject.client.SendOverdue(); });
+         SayUntilItEnds(subject, [&] { subject.client.SendOverdue(); });
      }},
-    {"client sends too much", [](Subject& subject) { return subject.client.Program().SendBytes("\xff\xff\xff\xff"); }},
-    {"nothing can be shown",
-     [](Subject& subject) { return SayUntilItEnds(subject, [&] { subject.client.SendUnshowable(); }); }},
-    {"server dies",
-     [](Subject& subject) {
-         bool const was_there = subject.user.SeesProgram();
-         subject.display.Kill();
-         return was_there;
-     },
-     true},
-    {"connection is killed",
-     [](Subject& subject) {
-         bool const was_there = subject.user.SeesProgram();
-         subject.user.KillTheConnection();
-         return was_there;
-     }},
-    {"user closes a window",
-     [](Subject& subject) {
-         subject.user.CloseAWindow();
-         return false;
-     }},
-    {"window is destroyed",
+    {"client sends too much", Ends::Surely,
+     [](Subject& subject) { subject.client.Program().SendBytes("\xff\xff\xff\xff"); }},
+    {"nothing can be shown", Ends::Surely,
+     [](Subject& subject) { SayUntilItEnds(subject, [&] { subject.client.SendUnshowable(); }); }},
+    {"server dies", Ends::IfOnDisplay, [](Subject& subject) { subject.display.Kill(); }, true},
+    {"connection is killed", Ends::IfOnDisplay, [](Subject& subject) { subject.user.KillTheConnection(); }},
+    {"user closes a window", Ends::Perhaps, [](Subject& subject) { subject.user.CloseAWindow(); }},
+    {"window is destroyed", Ends::Perhaps,
      [](Subject& subject) {
          subject.user.DestroyAWindow();
          subject.Live(std::chrono::seconds(2));
-         return false;
      },
      true},
 };
 
 std::string Bring(Subject& subject, Ending const& ending) {
-    if (subject.client.dice.Roll(5) > 0) subject.client.Initialize();
-    subject.Live(Milliseconds(subject.client.dice.Roll(subject.client.dice.Roll(2) ? 1500 : 6000)));
-    bool const alone = ending.bring_about(subject);
-    if (!alone && subject.WaitForEnd(std::chrono::seconds(4)) == "running") subject.client.Program().CloseSending();
+    auto& client = subject.client;
+    if (client.dice.Roll(5) > 0) client.Initialize();
+    subject.Live(Milliseconds(client.dice.Roll(client.dice.Roll(2) ? 1500 : 6000)));
+    bool const alone = ending.ends == Ends::Surely || (ending.ends == Ends::IfOnDisplay && subject.user.SeesProgram());
+    ending.bring_about(subject);
+    if (!alone && subject.WaitForEnd(std::chrono::seconds(4)) == "running") client.Program().CloseSending();
     return subject.WaitForEnd(kPatience);
 }
 
