@@ -47,16 +47,18 @@ TEST(ListTest, AWalkGoesOnWhereverNodesComeAndGo) {
     for (auto& node : nodes) list.PushFront(node);
     auto removed = std::make_unique<Node>();
     list.PushFront(*removed);
-    ListIterator outer(list), inner(list);
-    EXPECT_EQ(inner.Next(), removed.get());
+    ListIterator walk(list), slower(list);
+    EXPECT_EQ(slower.Next(), removed.get());
     removed.reset();
-    EXPECT_EQ(outer.Next(), &nodes[2]);
+    EXPECT_EQ(walk.Next(), &nodes[2]);
     list.Remove(nodes[1]);
-    list.Remove(nodes[2]);
-    list.PushFront(nodes[2]);
-    EXPECT_EQ(outer.Next(), &nodes[0]);
-    EXPECT_EQ(outer.Next(), nullptr);
-    EXPECT_EQ(inner.Next(), &nodes[0]);
+    EXPECT_EQ(walk.Next(), &nodes[0]);
+    list.Remove(nodes[0]);
+    list.PushFront(nodes[1]);
+    EXPECT_EQ(walk.Next(), nullptr);
+    EXPECT_EQ(slower.Next(), &nodes[2]);
+    EXPECT_EQ(slower.Next(), nullptr);
+    EXPECT_EQ(ListIterator(list).Next(), &nodes[1]);
 }
 
 }  // namespace
