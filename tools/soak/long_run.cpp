@@ -41,11 +41,7 @@ void AddServerResources(Display* display, Window window, Resources& resources) {
     XResType* types = nullptr;
     unsigned long bytes = 0;
     if (!XResQueryClientResources(display, window, &count, &types)) return;
-    for (int i = 0; i < count; ++i) {
-        char* name = XGetAtomName(display, types[i].resource_type);
-        resources[name ? name : "unknown"] = types[i].count;
-        XFree(name);
-    }
+    for (int i = 0; i < count; ++i) resources[AtomName(display, types[i].resource_type)] = types[i].count;
     XFree(types);
     if (XResQueryClientPixmapBytes(display, window, &bytes)) resources["pixmap KiB"] = static_cast<long>(bytes / 1024);
 }
