@@ -142,6 +142,8 @@ void Editres::HandOver(XSelectionRequestEvent const& request, std::string const&
     XFlush(display_);
 }
 
+// Deletes the property as it reads it: while it stands, the program's toolkit keeps the shell that has answered in mind, and
+// ends the program if that is destroyed meanwhile.
 std::string Editres::TakeAnswer(XSelectionEvent const& event) {
     Atom type = None;
     int format = 0;

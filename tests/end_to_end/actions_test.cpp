@@ -1,5 +1,4 @@
 #include "tests/support/program_test.h"
-#include "tools/client_messages.h"
 
 class Actions : public ProgramTest {};
 
@@ -51,20 +50,6 @@ TEST_F(Actions, TakeAllPutsEachQuestionItself) {
         click form.cancel
         wait window ConfirmationDialog gone
     )");
-}
-
-TEST_F(Actions, FiveHundredScroll) {
-    Play("initialize");
-    std::string requests;
-    for (int id = 1; id <= 500; ++id) requests += "request title=Many id=" + std::to_string(id) + "\n";
-    Program().SendFrame(Document(requests));
-    Play(R"(
-        wait window ActionRequestDialog
-        drag form.viewport.vertical 0 1
-        select row 3
-        click form.takeActions
-    )");
-    EXPECT_GT(std::stoi(tools::ReadAnswer(Receive()).fields["ID"]), 490);
 }
 
 // With the first and the third button.
