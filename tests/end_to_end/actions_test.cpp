@@ -1,5 +1,4 @@
 #include "tests/support/program_test.h"
-#include "tools/client_messages.h"
 
 class Actions : public ProgramTest {};
 
@@ -56,20 +55,6 @@ TEST_F(Actions, WhileAQuestionStandsNothingElseIsDecided) {
         wait window ActionRequestDialog
         wait sensitive form.viewport.List form.takeAllActions
     )");
-}
-
-TEST_F(Actions, FiveHundredScroll) {
-    Play("initialize");
-    std::string requests;
-    for (int id = 1; id <= 500; ++id) requests += "request title=Many id=" + std::to_string(id) + "\n";
-    Program().SendFrame(Document(requests));
-    Play(R"(
-        wait window ActionRequestDialog
-        drag form.viewport.vertical 0 1
-        select row 3
-        click form.takeActions
-    )");
-    EXPECT_GT(std::stoi(tools::ReadAnswer(Receive()).fields["ID"]), 490);
 }
 
 // With the first and the third button.
