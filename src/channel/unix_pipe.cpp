@@ -8,7 +8,7 @@
 #include <utility>
 
 #include "channel/portable_thread.h"
-#include "channel/resumed.h"
+#include "foundation/base/resumed.h"
 
 namespace {
 
