@@ -19,13 +19,13 @@ std::vector<long long> Values() {
     return values;
 }
 
-// Calls `roundTrip` with value after value; the run fails when one does not come back.
+// Calls `round_trip` with value after value; the run fails when one does not come back.
 template <class RoundTrip>
-void Measure(benchmark::State& state, RoundTrip roundTrip) {
+void Measure(benchmark::State& state, RoundTrip round_trip) {
     auto const values = Values();
     while (state.KeepRunningBatch(static_cast<std::int64_t>(values.size()))) {
         for (auto const value : values)
-            if (roundTrip(value) != value) return state.SkipWithError("a value came back as another");
+            if (round_trip(value) != value) return state.SkipWithError("a value came back as another");
     }
 }
 
