@@ -20,6 +20,12 @@ class AutoUString {
     using Unit = typename E::Unit;
 
     AutoUString() = default;
+    // As many units, for the caller to fill through data().
+    explicit AutoUString(std::size_t size) : size_(size) {
+        if (size_ == 0) return;
+        units_ = std::make_unique_for_overwrite<Unit[]>(size_ + 1);
+        units_[size_] = 0;
+    }
     // Copies the range.
     AutoUString(Unit const* begin, Unit const* end) : size_(static_cast<std::size_t>(end - begin)) {
         if (size_ == 0) return;
@@ -36,6 +42,7 @@ class AutoUString {
         return *this;
     }
 
+    Unit* data() { return units_.get(); }
     Unit const* begin() const { return units_.get(); }
     Unit const* end() const { return units_.get() + size_; }
     std::size_t size() const { return size_; }
