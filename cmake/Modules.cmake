@@ -5,13 +5,8 @@
 # helpers of the tests alone, TEST_LABELS are ctest's.
 function(add_module name)
   cmake_parse_arguments(PARSE_ARGV 1 module "" "" "SOURCES;LINKS;TESTS;TEST_LINKS;TEST_LABELS")
-  if(module_SOURCES)
-    add_library(${name} ${module_SOURCES})
-    target_link_libraries(${name} PUBLIC ${module_LINKS})
-  else()
-    add_library(${name} INTERFACE)
-    target_link_libraries(${name} INTERFACE ${module_LINKS})
-  endif()
+  add_library(${name} ${module_SOURCES})
+  target_link_libraries(${name} PUBLIC ${module_LINKS})
   if(BUILD_TESTS AND module_TESTS)
     add_test_program(${name}_test SOURCES ${module_TESTS} LINKS ${name} ${module_TEST_LINKS}
                      LABELS ${module_TEST_LABELS})

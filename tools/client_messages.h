@@ -4,10 +4,29 @@
 #include <map>
 #include <string>
 #include <string_view>
-
-#include "tools/scenario_line.h"
+#include <vector>
 
 namespace tools {
+
+// One line of a scenario: words, and values with a key, separated by blanks. Text in double quotes may hold blanks; in it
+// \" \\ \n and \t stand for what they stand for in C. A "#" where a word could start begins a comment.
+//
+//     request id=7 title="Install updates" cancellable     # words: request cancellable
+struct ScenarioLine {
+    std::vector<std::string> words;
+    std::map<std::string, std::string> values;
+
+    bool Has(std::string_view word) const;
+    // The word at that place, or nothing.
+    std::string Word(size_t at) const { return at < words.size() ? words[at] : ""; }
+    std::string Value(std::string const& key, std::string const& fallback) const;
+};
+
+// Throws std::runtime_error when a quote is not closed.
+ScenarioLine ParseScenarioLine(std::string_view text);
+
+// A number with the unit s, m, h or d and perhaps a sign, as in 90s or -2h. Throws std::runtime_error for anything else.
+std::chrono::seconds ParseSpan(std::string const& text);
 
 // The element of that name; `content` stands as it is, see Escape.
 std::string Element(std::string_view name, std::string_view content);
@@ -21,8 +40,6 @@ std::string Document(std::string_view elements);
 // As messages carry instants: Sat, 21 Nov 2026 02:16:00 +0000.
 std::string TimeText(std::chrono::system_clock::time_point time);
 
-std::string Base64(std::string_view bytes);
-
 // The element that carries one support file.
 std::string SupportFile(std::string_view name, std::string_view bytes);
 
@@ -34,7 +51,7 @@ std::string SupportFile(std::string_view name, std::string_view bytes);
 //     remove action|offer|message|all ID
 //     quiet start= end=          quiet end
 //     initialize base= remind= remind-time= snooze locale
-std::string MessageFor(ScenarioLine const& line, std::string_view support_files);
+std::string MessageFor(ScenarioLine const& line, std::string_view support_files = {});
 
 // What the program answers: the name of the message and its fields.
 struct Answer {
@@ -44,7 +61,7 @@ struct Answer {
     std::string Text() const;
 };
 
-// Reads the plain form that the program writes: no attributes, no comments, text only in elements without children.
-Answer ReadAnswer(std::string_view document);
+// Throws std::runtime_error for what is no document.
+Answer ReadAnswer(std::string_view text);
 
 }  // namespace tools

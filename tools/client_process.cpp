@@ -12,9 +12,9 @@ namespace tools {
 
 namespace {
 
-size_t const header_size = 4;
-size_t const largest_answer = 1 << 20;
-std::string_view const declaration = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<";
+constexpr size_t kHeaderSize = 4;
+constexpr size_t kLargestAnswer = 1 << 20;
+constexpr std::string_view kDeclaration = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<";
 
 bool WaitFor(int descriptor, short events, Milliseconds limit) {
     pollfd entry{descriptor, events, 0};
@@ -23,7 +23,7 @@ bool WaitFor(int descriptor, short events, Milliseconds limit) {
 
 size_t LengthIn(std::string_view header) {
     size_t length = 0;
-    for (size_t at = header_size; at-- > 0;) length = length << 8 | static_cast<unsigned char>(header[at]);
+    for (size_t at = kHeaderSize; at-- > 0;) length = length << 8 | static_cast<unsigned char>(header[at]);
     return length;
 }
 
@@ -35,22 +35,20 @@ std::string Frame(std::string_view text) {
     return frame.append(text);
 }
 
-ClientProcess::Pipes::Pipes() : to_program(MakePipe()), from_program(MakePipe()) {
+ClientProcess::ClientProcess(Launch const& launch)
+    : to_program_(MakePipe()),
+      from_program_(MakePipe()),
+      process_(launch, to_program_.reading.Get(), from_program_.writing.Get()) {
+    to_program_.reading.Close();
+    from_program_.writing.Close();
     signal(SIGPIPE, SIG_IGN);
-    fcntl(to_program.writing.Get(), F_SETFL, O_NONBLOCK);
+    fcntl(to_program_.writing.Get(), F_SETFL, O_NONBLOCK);
 }
-
-ClientProcess::ClientProcess(Launch const& launch) : ClientProcess(launch, Pipes()) {}
-
-ClientProcess::ClientProcess(Launch const& launch, Pipes pipes)
-    : sending_(std::move(pipes.to_program.writing)),
-      receiving_(std::move(pipes.from_program.reading)),
-      process_(launch, pipes.to_program.reading.Get(), pipes.from_program.writing.Get()) {}
 
 bool ClientProcess::SendBytes(std::string_view bytes) {
     while (!bytes.empty()) {
-        if (!WaitFor(sending_.Get(), POLLOUT, std::chrono::seconds(10))) return false;
-        ssize_t written = write(sending_.Get(), bytes.data(), bytes.size());
+        if (!WaitFor(to_program_.writing.Get(), POLLOUT, std::chrono::seconds(10))) return false;
+        ssize_t written = write(to_program_.writing.Get(), bytes.data(), bytes.size());
         if (written < 0) return false;
         bytes.remove_prefix(static_cast<size_t>(written));
     }
@@ -66,25 +64,25 @@ std::optional<std::string> ClientProcess::ReceiveFrame(Milliseconds limit) {
 
 size_t ClientProcess::WaitingBytes() const {
     int count = 0;
-    ioctl(receiving_.Get(), FIONREAD, &count);
+    ioctl(from_program_.reading.Get(), FIONREAD, &count);
     return static_cast<size_t>(count);
 }
 
 std::optional<std::string> ClientProcess::TakeFrame() {
-    if (received_.size() < header_size) return std::nullopt;
+    if (received_.size() < kHeaderSize) return std::nullopt;
     size_t length = LengthIn(received_);
-    if (length > largest_answer) throw std::runtime_error("not a frame: " + received_);
-    if (received_.size() < header_size + length) return std::nullopt;
-    std::string text = received_.substr(header_size, length);
-    received_.erase(0, header_size + length);
-    if (!text.starts_with(declaration)) throw std::runtime_error("not a document: " + text);
+    if (length > kLargestAnswer) throw std::runtime_error("not a frame: " + received_);
+    if (received_.size() < kHeaderSize + length) return std::nullopt;
+    std::string text = received_.substr(kHeaderSize, length);
+    received_.erase(0, kHeaderSize + length);
+    if (!text.starts_with(kDeclaration)) throw std::runtime_error("not a document: " + text);
     return text;
 }
 
 bool ClientProcess::ReadMore(Milliseconds limit) {
-    if (!WaitFor(receiving_.Get(), POLLIN, limit)) return false;
+    if (!WaitFor(from_program_.reading.Get(), POLLIN, limit)) return false;
     char block[4096];
-    ssize_t got = read(receiving_.Get(), block, sizeof block);
+    ssize_t got = read(from_program_.reading.Get(), block, sizeof block);
     if (got <= 0 && !received_.empty()) throw std::runtime_error("the last frame is cut short: " + received_);
     if (got <= 0) return false;
     received_.append(block, static_cast<size_t>(got));

@@ -29,25 +29,19 @@ class ClientProcess {
     // How much the program has written that waits in the pipe.
     size_t WaitingBytes() const;
 
-    void CloseSending() { sending_.Close(); }
-    void CloseReceiving() { receiving_.Close(); }
+    void CloseSending() { to_program_.writing.Close(); }
+    void CloseReceiving() { from_program_.reading.Close(); }
 
     // See ChildProcess.
     pid_t Pid() const { return process_.Pid(); }
     std::string WaitForEnd(Milliseconds limit) { return process_.WaitForEnd(limit); }
 
   private:
-    struct Pipes {
-        Pipes();
-        PipeEnds to_program, from_program;
-    };
-
-    ClientProcess(Launch const& launch, Pipes pipes);
     std::optional<std::string> TakeFrame();
     bool ReadMore(Milliseconds limit);
 
-    Descriptor sending_;
-    Descriptor receiving_;
+    PipeEnds to_program_;
+    PipeEnds from_program_;
     ChildProcess process_;
     std::string received_;
 };

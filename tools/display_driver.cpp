@@ -10,7 +10,7 @@ namespace tools {
 
 namespace {
 
-Milliseconds const patience = std::chrono::seconds(10);
+constexpr Milliseconds kPatience = std::chrono::seconds(10);
 
 Display* Open(std::string const& name) {
     Display* display = XOpenDisplay(name.c_str());
@@ -36,31 +36,18 @@ void DisplayDriver::WaitUntilGone(std::string const& name, Milliseconds limit) {
     throw std::runtime_error("the window " + name + " stays");
 }
 
-std::map<std::string, RemoteWidget> DisplayDriver::WidgetsByPath(Window shell) {
-    std::map<std::string, RemoteWidget> widgets;
-    std::vector<std::string> parts;
-    for (auto& widget : editres_.ReadTree(shell, patience)) {
-        parts.resize(widget.ids.size() - 1);
-        parts.push_back(widget.name.empty() ? widget.class_name : widget.name);
-        std::string path;
-        for (size_t part = 1; part < parts.size(); ++part) path += (part > 1 ? "." : "") + parts[part];
-        widgets.emplace(path, widget);
-    }
-    return widgets;
-}
-
 RemoteWidget DisplayDriver::FindWidget(Window shell, std::string const& path) {
-    auto widgets = WidgetsByPath(shell);
-    auto found = widgets.find(path);
-    if (found == widgets.end()) throw std::runtime_error("no widget " + path);
+    auto const tree = editres_.ReadTree(shell);
+    auto const found = tree.find(path);
+    if (found == tree.end()) throw std::runtime_error("no widget " + path);
     return found->second;
 }
 
 std::set<std::string> DisplayDriver::SensitiveControls(Window shell) {
     std::set<std::string> sensitive;
-    for (auto const& [path, widget] : WidgetsByPath(shell)) {
+    for (auto const& [path, widget] : editres_.ReadTree(shell)) {
         if (widget.class_name != "List" && widget.class_name != "Command") continue;
-        if (editres_.ReadResource(shell, widget, "sensitive", patience) == "true") sensitive.insert(path);
+        if (editres_.ReadResource(shell, widget, "sensitive") == "true") sensitive.insert(path);
     }
     return sensitive;
 }
@@ -76,11 +63,11 @@ Window DisplayDriver::WindowOf(Window shell, std::string const& path) {
 }
 
 std::string DisplayDriver::ReadResource(Window shell, std::string const& path, std::string const& resource) {
-    return editres_.ReadResource(shell, FindWidget(shell, path), resource, patience);
+    return editres_.ReadResource(shell, FindWidget(shell, path), resource);
 }
 
 void DisplayDriver::WaitUntilDrawn(Window shell) {
-    editres_.ReadTree(shell, patience);
+    editres_.ReadTree(shell);
 }
 
 // Moves the pointer there once the window really is there: it may just be being moved, or still be covered.
@@ -89,19 +76,28 @@ void DisplayDriver::PointAt(Window window, int x, int y) {
         XTestFakeMotionEvent(display_.get(), DefaultScreen(display_.get()), x, y, CurrentTime);
         return WindowUnderPointer(display_.get()) == window;
     };
-    if (!WaitUntil(patience, arrived)) throw std::runtime_error("the widget is not under the pointer");
+    if (!WaitUntil(kPatience, arrived)) throw std::runtime_error("the widget is not under the pointer");
 }
 
-void DisplayDriver::PressAt(Window window, Area const& place) {
-    PointAt(window, place.MiddleX(), place.MiddleY());
-    XTestFakeButtonEvent(display_.get(), Button1, True, CurrentTime);
-    XTestFakeButtonEvent(display_.get(), Button1, False, CurrentTime);
+void DisplayDriver::Button(unsigned button, bool down) {
+    XTestFakeButtonEvent(display_.get(), button, down, CurrentTime);
     XFlush(display_.get());
+}
+
+void DisplayDriver::PressAt(int x, int y) {
+    XTestFakeMotionEvent(display_.get(), DefaultScreen(display_.get()), x, y, CurrentTime);
+    Button(Button1, true);
+    Button(Button1, false);
+}
+
+void DisplayDriver::PressOn(Window window, Area const& place) {
+    PointAt(window, place.MiddleX(), place.MiddleY());
+    PressAt(place.MiddleX(), place.MiddleY());
 }
 
 void DisplayDriver::Press(Window shell, std::string const& path) {
     Window window = WindowOf(shell, path);
-    PressAt(window, VisibleArea(display_.get(), window));
+    PressOn(window, VisibleArea(display_.get(), window));
 }
 
 // Its frame is drawn when the pointer comes in.
@@ -117,10 +113,10 @@ bool DisplayDriver::AnswersPointer(Window shell, Window button) {
 
 void DisplayDriver::Click(Window shell, std::string const& path) {
     Window button = WindowOf(shell, path);
-    if (!WaitUntil(patience, [&] { return AnswersPointer(shell, button); })) {
+    if (!WaitUntil(kPatience, [&] { return AnswersPointer(shell, button); })) {
         throw std::runtime_error(path + " does not answer to the pointer");
     }
-    PressAt(button, VisibleArea(display_.get(), button));
+    PressOn(button, VisibleArea(display_.get(), button));
 }
 
 std::vector<TextLine> DisplayDriver::LinesOf(Window shell, Window list, size_t least) {
@@ -130,17 +126,17 @@ std::vector<TextLine> DisplayDriver::LinesOf(Window shell, Window list, size_t l
         lines = FindTextLines(display_.get(), VisibleArea(display_.get(), list));
         return lines.size() >= least;
     };
-    if (least == 0 || !WaitUntil(patience, drawn)) throw std::runtime_error("no such line is on view");
+    if (least == 0 || !WaitUntil(kPatience, drawn)) throw std::runtime_error("no such line is on view");
     return lines;
 }
 
 void DisplayDriver::SelectLine(Window shell, std::string const& path, size_t line) {
     Window list = WindowOf(shell, path);
     auto selected = [&] {
-        PressAt(list, LinesOf(shell, list, line)[line - 1].area);
+        PressOn(list, LinesOf(shell, list, line)[line - 1].area);
         return LinesOf(shell, list, line)[line - 1].IsHighlighted();
     };
-    if (!WaitUntil(patience, selected)) throw std::runtime_error(path + " does not let its lines be selected");
+    if (!WaitUntil(kPatience, selected)) throw std::runtime_error(path + " does not let its lines be selected");
 }
 
 bool DisplayDriver::LinesLookAlike(Window shell, std::string const& path, size_t one, size_t other) {
@@ -153,10 +149,9 @@ void DisplayDriver::Drag(Window shell, std::string const& path, double from, dou
     Area area = VisibleArea(display_.get(), window);
     auto at = [&](double fraction) { return area.y + static_cast<int>(fraction * (area.height - 1)); };
     PointAt(window, area.MiddleX(), at(from));
-    XTestFakeButtonEvent(display_.get(), button, True, CurrentTime);
+    Button(button, true);
     XTestFakeMotionEvent(display_.get(), DefaultScreen(display_.get()), area.MiddleX(), at(to), CurrentTime);
-    XTestFakeButtonEvent(display_.get(), button, False, CurrentTime);
-    XFlush(display_.get());
+    Button(button, false);
 }
 
 std::string DisplayDriver::ReadText(Window shell, std::string const& path) {
@@ -165,9 +160,9 @@ std::string DisplayDriver::ReadText(Window shell, std::string const& path) {
     Area text = VisibleArea(display_.get(), window);
     XStoreBytes(display_.get(), "", 0);
     PointAt(window, bar.Right() + 3, text.y + 3);
-    XTestFakeButtonEvent(display_.get(), Button1, True, CurrentTime);
+    Button(Button1, true);
     PointAt(window, text.Right() - 3, text.Bottom() - 3);
-    XTestFakeButtonEvent(display_.get(), Button1, False, CurrentTime);
+    Button(Button1, false);
     WaitUntilDrawn(shell);
     int size = 0;
     char* bytes = XFetchBytes(display_.get(), &size);
@@ -176,23 +171,27 @@ std::string DisplayDriver::ReadText(Window shell, std::string const& path) {
     return selected;
 }
 
-bool DisplayDriver::IsManaged() {
-    int count = 0;
-    Atom* names = XListProperties(display_.get(), root_, &count);
-    Atom wanted = MakeAtom("_NET_SUPPORTING_WM_CHECK");
-    bool found = std::find(names, names + count, wanted) != names + count;
-    XFree(names);
-    return found;
+XClientMessageEvent DisplayDriver::MessageTo(Window window, char const* type, int format) {
+    XClientMessageEvent message{};
+    message.window = window;
+    message.message_type = XInternAtom(display_.get(), type, False);
+    message.format = format;
+    return message;
 }
 
 void DisplayDriver::RequestClose(Window window) {
-    bool managed = IsManaged();
-    XClientMessageEvent message{};
-    message.window = window;
-    message.format = 32;
-    message.message_type = MakeAtom(managed ? "_NET_CLOSE_WINDOW" : "WM_PROTOCOLS");
-    message.data.l[0] = managed ? CurrentTime : static_cast<long>(MakeAtom("WM_DELETE_WINDOW"));
+    bool const managed = !ReadProperty(root_, "_NET_SUPPORTED").empty();
+    auto message = MessageTo(window, managed ? "_NET_CLOSE_WINDOW" : "WM_PROTOCOLS", 32);
+    if (!managed) message.data.l[0] = static_cast<long>(XInternAtom(display_.get(), "WM_DELETE_WINDOW", False));
     SendClientMessage(display_.get(), managed ? root_ : window, message);
+}
+
+// The type is one that no program knows.
+void DisplayDriver::SendOpen() {
+    Window const window = FindHiddenWindow();
+    auto message = MessageTo(window, "SCRIPTED_CLIENT", 8);
+    std::string_view("open").copy(message.data.b, sizeof message.data.b);
+    SendClientMessage(display_.get(), window, message);
 }
 
 void DisplayDriver::Destroy(Window window) {
@@ -210,15 +209,6 @@ void DisplayDriver::LeaveFonts(std::filesystem::path const& directory) {
     char* paths[] = {path.data()};
     XSetFontPath(display_.get(), paths, 1);
     XSync(display_.get(), False);
-}
-
-void DisplayDriver::SendText(Window window, std::string const& text) {
-    XClientMessageEvent message{};
-    message.window = window;
-    message.format = 8;
-    message.message_type = MakeAtom("SCRIPTED_CLIENT");
-    text.copy(message.data.b, sizeof message.data.b);
-    SendClientMessage(display_.get(), window, message);
 }
 
 unsigned long DisplayDriver::PixelIn(Window window, int x, int y) {

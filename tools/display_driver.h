@@ -3,7 +3,6 @@
 #include <X11/Xlib.h>
 
 #include <filesystem>
-#include <map>
 #include <memory>
 #include <set>
 #include <string>
@@ -11,6 +10,7 @@
 
 #include "tools/editres.h"
 #include "tools/pixels.h"
+#include "tools/waiting.h"
 #include "tools/windows.h"
 
 namespace tools {
@@ -27,8 +27,12 @@ class DisplayDriver {
     // `name` as in DISPLAY. See IgnoreErrors for what this changes in the whole process.
     explicit DisplayDriver(std::string const& name);
 
+    Display* Connection() { return display_.get(); }
+
     // The window of that name, mapped or not; 0 when there is none.
     Window FindWindow(std::string const& name) { return FindTopLevel(display_.get(), name); }
+    // The one that the program never shows.
+    Window FindHiddenWindow() { return FindWindow("QENClientUIHiddenWindow"); }
     // Waits until it is on the screen and is not `other`, or until it no longer is.
     Window WaitForWindow(std::string const& name, Milliseconds limit, Window other = None);
     void WaitUntilGone(std::string const& name, Milliseconds limit);
@@ -54,6 +58,8 @@ class DisplayDriver {
     // Returns once the program has handled every event sent before, and drawn what follows from them.
     void WaitUntilDrawn(Window shell);
 
+    // A click wherever that is on the screen.
+    void PressAt(int x, int y);
     // With the pointer: a click into the middle of what is visible of a widget, and the same on a button once it answers
     // to the pointer, as a sensitive one does by its frame.
     void Press(Window shell, std::string const& path);
@@ -72,8 +78,8 @@ class DisplayDriver {
     void KillOwner(Window window);
     // Takes all fonts but those in the directory away from the server, which holds them ready as they are.
     void LeaveFonts(std::filesystem::path const& directory);
-    // Sends `text`, at most 20 bytes of it, as a message of a type that no program knows.
-    void SendText(Window window, std::string const& text);
+    // Sends what another program does to bring the action requests up.
+    void SendOpen();
 
     // What the screen shows at a place in a window.
     unsigned long PixelIn(Window window, int x, int y);
@@ -86,14 +92,13 @@ class DisplayDriver {
     };
 
     Window WindowOf(Window shell, std::string const& path);
-    std::map<std::string, RemoteWidget> WidgetsByPath(Window shell);
     RemoteWidget FindWidget(Window shell, std::string const& path);
     std::vector<TextLine> LinesOf(Window shell, Window list, size_t least);
     bool AnswersPointer(Window shell, Window button);
     void PointAt(Window window, int x, int y);
-    void PressAt(Window window, Area const& place);
-    Atom MakeAtom(char const* name) { return XInternAtom(display_.get(), name, False); }
-    bool IsManaged();
+    void PressOn(Window window, Area const& place);
+    void Button(unsigned button, bool down);
+    XClientMessageEvent MessageTo(Window window, char const* type, int format);
 
     std::unique_ptr<Display, Closer> display_;
     Window root_;

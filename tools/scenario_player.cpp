@@ -3,32 +3,18 @@
 #include <fnmatch.h>
 
 #include <algorithm>
-#include <ctime>
-#include <fstream>
 #include <iomanip>
 #include <sstream>
 #include <stdexcept>
 
-#include "tools/client_messages.h"
+#include "tools/files.h"
 
 namespace tools {
 
 namespace {
 
-size_t const longest_logged = 800;
-char const* const row_list = "form.viewport.List";
-char const* const hidden_window = "QENClientUIHiddenWindow";
-
-std::string Stamp() {
-    auto now = std::chrono::system_clock::now();
-    std::time_t seconds = std::chrono::system_clock::to_time_t(now);
-    std::tm parts{};
-    localtime_r(&seconds, &parts);
-    auto millis = std::chrono::duration_cast<Milliseconds>(now.time_since_epoch()).count() % 1000;
-    std::ostringstream stamp;
-    stamp << std::put_time(&parts, "%H:%M:%S.") << std::setfill('0') << std::setw(3) << millis;
-    return stamp.str();
-}
+constexpr size_t kLongestLogged = 800;
+constexpr char const* kRowList = "form.viewport.List";
 
 bool Matches(std::string const& text, std::string const& pattern) {
     return fnmatch(pattern.c_str(), text.c_str(), 0) == 0;
@@ -54,14 +40,31 @@ bool Holds(Answer const& answer, ScenarioLine const& line) {
     });
 }
 
+std::string Joined(std::set<std::string> const& paths) {
+    std::string joined;
+    for (auto const& path : paths) joined += " " + path;
+    return joined;
+}
+
+// Takes "within SPAN" off the end of a line.
+Milliseconds TakeLimit(ScenarioLine& line, Milliseconds otherwise) {
+    auto const within = std::find(line.words.begin(), line.words.end(), "within");
+    if (within == line.words.end() || std::next(within) == line.words.end()) return otherwise;
+    otherwise = ParseSpan(*std::next(within));
+    line.words.erase(within, line.words.end());
+    return otherwise;
+}
+
 }  // namespace
 
 void ScenarioPlayer::Play(std::string_view lines) {
     std::istringstream stream{std::string(lines)};
     for (std::string text; std::getline(stream, text);) {
         try {
-            ScenarioLine line = ParseScenarioLine(text);
-            if (!line.words.empty()) PlayLine(Complete(line));
+            ScenarioLine line = Complete(ParseScenarioLine(text));
+            limit_ = TakeLimit(line, std::chrono::seconds(10));
+            if (options_.interactive) limit_ = std::chrono::hours(1);
+            if (!line.words.empty()) PlayLine(line);
         } catch (std::runtime_error const& error) {
             throw std::runtime_error(text + ": " + error.what());
         }
@@ -69,10 +72,9 @@ void ScenarioPlayer::Play(std::string_view lines) {
 }
 
 void ScenarioPlayer::PlayLine(ScenarioLine const& line) {
-    static std::map<std::string, Verb> const verbs = {
+    static std::map<std::string, void (ScenarioPlayer::*)(ScenarioLine const&)> const verbs = {
         {"environment", &ScenarioPlayer::ChangeEnvironment},
         {"support-file", &ScenarioPlayer::AddSupportFile},
-        {"raw", &ScenarioPlayer::SendRaw},
         {"expect", &ScenarioPlayer::Expect},
         {"wait", &ScenarioPlayer::WaitFor},
         {"click", &ScenarioPlayer::Click},
@@ -83,11 +85,12 @@ void ScenarioPlayer::PlayLine(ScenarioLine const& line) {
         {"open", &ScenarioPlayer::Open},
         {"close", &ScenarioPlayer::Close},
     };
-    auto verb = verbs.find(line.Word(0));
+    auto const verb = verbs.find(line.Word(0));
     if (verb != verbs.end()) return (this->*verb->second)(line);
-    std::string message = MessageFor(line, support_files_);
-    if (message.empty()) throw std::runtime_error("unknown verb");
-    SendDocument(Document(message));
+    if (line.Word(0) == "raw") return SendDocument(line.Word(1));
+    std::string const element = MessageFor(line, support_files_);
+    if (element.empty()) throw std::runtime_error("unknown verb");
+    SendDocument(Document(element));
 }
 
 std::string ScenarioPlayer::DocumentFor(std::string_view lines) const {
@@ -108,7 +111,7 @@ std::string ScenarioPlayer::Receive(Milliseconds limit) {
     auto text = Program().ReceiveFrame(limit);
     if (!text) throw std::runtime_error("no answer; the program: " + Program().WaitForEnd(Milliseconds(0)));
     Log("program -> client", *text);
-    last_answer_ = ReadAnswer(*text).Text();
+    last_answer_ = ReadAnswer(*text);
     return *text;
 }
 
@@ -135,80 +138,47 @@ void ScenarioPlayer::AddSupportFile(ScenarioLine const& line) {
     support_files_ += SupportFile(line.Word(1), line.Word(2));
 }
 
-void ScenarioPlayer::SendRaw(ScenarioLine const& line) {
-    SendDocument(line.Word(1));
-}
-
 void ScenarioPlayer::Expect(ScenarioLine const& line) {
     if (line.Word(1) == "exit") {
-        std::string ending = Program().WaitForEnd(LimitOf(line));
+        std::string const ending = Program().WaitForEnd(limit_);
         if (ending != "exit " + line.Word(2)) throw std::runtime_error("the program: " + ending);
         return Log("program ended: " + ending, "");
     }
-    Answer answer = ReadAnswer(Receive(LimitOf(line)));
-    bool fits = answer.name == line.Word(1) && (options_.interactive || Holds(answer, line));
-    if (!fits) throw std::runtime_error("came: " + answer.Text());
+    Receive(limit_);
+    bool const fits = last_answer_.name == line.Word(1) && (options_.interactive || Holds(last_answer_, line));
+    if (!fits) throw std::runtime_error("came: " + last_answer_.Text());
 }
 
 void ScenarioPlayer::WaitFor(ScenarioLine const& line) {
-    if (line.Word(1) == "widget") return WaitForResource(line, LimitOf(line));
-    if (line.Word(1) == "property") return WaitForProperty(line, LimitOf(line));
-    if (line.Word(1) == "active") return WaitForActivity(line, LimitOf(line));
-    if (line.Word(1) == "sensitive") return WaitForSensitivity(line, LimitOf(line));
-    if (line.Word(1) == "rows") return WaitForRows(line, LimitOf(line));
-    if (line.Word(1) == "text") return WaitForText(line, LimitOf(line));
-    if (line.Has("gone")) return Screen().WaitUntilGone(line.Word(2), LimitOf(line));
-    window_ = Screen().WaitForWindow(line.Word(2), LimitOf(line), line.Has("again") ? window_ : Window(None));
-}
-
-void ScenarioPlayer::WaitForResource(ScenarioLine const& line, Milliseconds limit) {
-    if (!options_.reads_resources) return;
-    for (auto const& value : line.values) {
+    if (line.Word(1) == "window") return WaitForWindow(line);
+    bool const reads_resources = line.Word(1) == "widget" || line.Word(1) == "sensitive";
+    if (options_.interactive || (reads_resources && !options_.reads_resources)) return;
+    auto wanted = line.values;
+    if (line.Word(1) == "sensitive") wanted[""] = Joined({line.words.begin() + 2, line.words.end()});
+    if (wanted.empty()) wanted[""] = line.words.back();
+    for (auto const& value : wanted) {
         std::string found;
-        auto fits = [&] {
-            found = Screen().ReadResource(window_, line.Word(2), value.first);
-            return Matches(found, value.second);
-        };
-        if (!WaitUntil(limit, fits)) throw std::runtime_error("it is " + found);
+        auto const fits = [&] { return Matches(found = Look(line, value.first), value.second); };
+        if (!WaitUntil(limit_, fits)) throw std::runtime_error("it is " + found);
     }
 }
 
-void ScenarioPlayer::WaitForProperty(ScenarioLine const& line, Milliseconds limit) {
-    if (options_.interactive) return;
-    for (auto const& value : line.values) {
-        std::string found;
-        auto fits = [&] { return Matches(found = Screen().ReadProperty(window_, value.first), value.second); };
-        if (!WaitUntil(limit, fits)) throw std::runtime_error(value.first + " is " + found);
-    }
+void ScenarioPlayer::WaitForWindow(ScenarioLine const& line) {
+    if (line.Has("gone")) return Screen().WaitUntilGone(line.Word(2), limit_);
+    window_ = Screen().WaitForWindow(line.Word(2), limit_, line.Has("again") ? window_ : Window(None));
 }
 
-void ScenarioPlayer::WaitForActivity(ScenarioLine const& line, Milliseconds limit) {
-    if (options_.interactive) return;
-    if (WaitUntil(limit, [&] { return Screen().ActiveWindow() == line.Word(2); })) return;
-    throw std::runtime_error("it is " + Screen().ActiveWindow());
-}
-
-void ScenarioPlayer::WaitForSensitivity(ScenarioLine const& line, Milliseconds limit) {
-    if (!options_.reads_resources) return;
-    std::set<std::string> wanted(line.words.begin() + 2, std::find(line.words.begin(), line.words.end(), "within"));
-    if (WaitUntil(limit, [&] { return Screen().SensitiveControls(window_) == wanted; })) return;
-    std::string found;
-    for (auto const& path : Screen().SensitiveControls(window_)) found += " " + path;
-    throw std::runtime_error("it is" + found);
-}
-
-void ScenarioPlayer::WaitForRows(ScenarioLine const& line, Milliseconds limit) {
-    if (options_.interactive) return;
-    auto row = [&](size_t word) { return std::stoul(line.Word(word)); };
-    auto alike = [&] { return Screen().LinesLookAlike(window_, row_list, row(2), row(3)); };
-    if (!WaitUntil(limit, alike)) throw std::runtime_error("they differ");
-}
-
-void ScenarioPlayer::WaitForText(ScenarioLine const& line, Milliseconds limit) {
-    if (options_.interactive) return;
-    std::string found;
-    auto fits = [&] { return Matches(found = Screen().ReadText(window_, line.Word(2)), line.Word(3)); };
-    if (!WaitUntil(limit, fits)) throw std::runtime_error("it is " + found);
+// What the line waits for, as it is now; `key` is what it may call a part of that.
+std::string ScenarioPlayer::Look(ScenarioLine const& line, std::string const& key) {
+    std::string const what = line.Word(1);
+    if (what == "widget") return Screen().ReadResource(window_, line.Word(2), key);
+    if (what == "property") return Screen().ReadProperty(window_, key);
+    if (what == "active") return Screen().ActiveWindow();
+    if (what == "sensitive") return Joined(Screen().SensitiveControls(window_));
+    if (what == "text") return Screen().ReadText(window_, line.Word(2));
+    if (what != "rows") throw std::runtime_error("nothing to wait for");
+    size_t const one = std::stoul(line.Word(2)), other = std::stoul(line.Word(3));
+    return Screen().LinesLookAlike(window_, kRowList, one, other) ? "alike" : "different";
 }
 
 void ScenarioPlayer::Click(ScenarioLine const& line) {
@@ -222,7 +192,7 @@ void ScenarioPlayer::Press(ScenarioLine const& line) {
 
 void ScenarioPlayer::Select(ScenarioLine const& line) {
     if (Instructs("select row " + line.Word(2) + " of the list")) return;
-    Screen().SelectLine(window_, line.Has("in") ? line.Word(4) : row_list, std::stoul(line.Word(2)));
+    Screen().SelectLine(window_, line.Has("in") ? line.Word(4) : kRowList, std::stoul(line.Word(2)));
 }
 
 void ScenarioPlayer::Drag(ScenarioLine const& line) {
@@ -240,12 +210,9 @@ void ScenarioPlayer::Screenshot(ScenarioLine const& line) {
 }
 
 void ScenarioPlayer::Open(ScenarioLine const&) {
-    DisplayDriver& screen = Screen();
-    Window window = 0;
-    if (!WaitUntil(std::chrono::seconds(10), [&] { return (window = screen.FindWindow(hidden_window)) != 0; })) {
+    if (!WaitUntil(limit_, [this] { return Screen().FindHiddenWindow() != None; }))
         throw std::runtime_error("no hidden window");
-    }
-    screen.SendText(window, "open");
+    Screen().SendOpen();
 }
 
 void ScenarioPlayer::Close(ScenarioLine const& line) {
@@ -259,38 +226,26 @@ bool ScenarioPlayer::Instructs(std::string const& instruction) {
     return options_.interactive;
 }
 
-Milliseconds ScenarioPlayer::LimitOf(ScenarioLine const& line) const {
-    if (options_.interactive) return std::chrono::hours(1);
-    auto within = std::find(line.words.begin(), line.words.end(), "within");
-    return within == line.words.end() ? std::chrono::seconds(10) : ParseSpan(*std::next(within));
-}
-
 // Fills in what a scenario leaves out or keeps in a file.
 ScenarioLine ScenarioPlayer::Complete(ScenarioLine line) const {
-    for (auto& [key, value] : line.values) {
-        if (value.starts_with('@')) value = ReadFile(value.substr(1));
-    }
-    for (auto& word : line.words) {
-        if (word.starts_with('@')) word = ReadFile(word.substr(1));
-    }
+    auto const complete = [this](std::string& text) {
+        if (text.starts_with('@')) text = ReadFile(options_.directory / text.substr(1));
+    };
+    for (auto& value : line.values) complete(value.second);
+    for (auto& word : line.words) complete(word);
     if (line.Word(0) == "initialize") line.values.try_emplace("base", (options_.output / "base").string());
     return line;
 }
 
-std::string ScenarioPlayer::ReadFile(std::string const& name) const {
-    std::ifstream file(options_.directory / name, std::ios::binary);
-    if (!file) throw std::runtime_error("no file " + name);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
-
 void ScenarioPlayer::Log(std::string const& title, std::string_view text) {
     if (!options_.log) return;
-    *options_.log << Stamp() << "  " << title;
+    std::chrono::duration<double> const since_start = Clock::now() - start_;
+    *options_.log << std::fixed << std::setprecision(3) << std::setw(8) << since_start.count() << " s  " << title;
     if (!text.empty()) *options_.log << ", " << text.size() << " bytes";
     *options_.log << std::endl;
-    std::istringstream lines{std::string(text.substr(0, longest_logged))};
+    std::istringstream lines{std::string(text.substr(0, kLongestLogged))};
     for (std::string line; std::getline(lines, line);) *options_.log << "    " << line << std::endl;
-    if (text.size() > longest_logged) *options_.log << "    ..." << std::endl;
+    if (text.size() > kLongestLogged) *options_.log << "    ..." << std::endl;
 }
 
 }  // namespace tools

@@ -7,9 +7,9 @@
 #include <string>
 #include <string_view>
 
+#include "tools/client_messages.h"
 #include "tools/client_process.h"
 #include "tools/display_driver.h"
-#include "tools/scenario_line.h"
 
 namespace tools {
 
@@ -37,7 +37,7 @@ class ScenarioPlayer {
     // The next answer; throws std::runtime_error when none comes within `limit`.
     std::string Receive(Milliseconds limit);
     // Its name and fields in one line; empty before the first.
-    std::string const& LastAnswer() const { return last_answer_; }
+    std::string LastAnswer() const { return last_answer_.Text(); }
 
     // Starts the program at the first use.
     ClientProcess& Program();
@@ -45,20 +45,13 @@ class ScenarioPlayer {
     DisplayDriver& Screen();
 
   private:
-    using Verb = void (ScenarioPlayer::*)(ScenarioLine const&);
-
     void PlayLine(ScenarioLine const& line);
     void ChangeEnvironment(ScenarioLine const& line);
     void AddSupportFile(ScenarioLine const& line);
-    void SendRaw(ScenarioLine const& line);
     void Expect(ScenarioLine const& line);
     void WaitFor(ScenarioLine const& line);
-    void WaitForResource(ScenarioLine const& line, Milliseconds limit);
-    void WaitForProperty(ScenarioLine const& line, Milliseconds limit);
-    void WaitForActivity(ScenarioLine const& line, Milliseconds limit);
-    void WaitForSensitivity(ScenarioLine const& line, Milliseconds limit);
-    void WaitForRows(ScenarioLine const& line, Milliseconds limit);
-    void WaitForText(ScenarioLine const& line, Milliseconds limit);
+    void WaitForWindow(ScenarioLine const& line);
+    std::string Look(ScenarioLine const& line, std::string const& key);
     void Click(ScenarioLine const& line);
     void Press(ScenarioLine const& line);
     void Select(ScenarioLine const& line);
@@ -68,17 +61,17 @@ class ScenarioPlayer {
     void Close(ScenarioLine const& line);
 
     bool Instructs(std::string const& instruction);
-    Milliseconds LimitOf(ScenarioLine const& line) const;
     ScenarioLine Complete(ScenarioLine line) const;
-    std::string ReadFile(std::string const& name) const;
     void Log(std::string const& title, std::string_view text);
 
     PlayerOptions options_;
+    Clock::time_point start_ = Clock::now();
     std::optional<ClientProcess> program_;
     std::unique_ptr<DisplayDriver> screen_;
     std::string support_files_;
-    std::string last_answer_;
-    Window window_ = 0;  // the one waited for last, which clicks are meant for
+    Answer last_answer_;
+    Milliseconds limit_{};  // how long the line that is being played may wait
+    Window window_ = 0;     // the one waited for last, which clicks are meant for
 };
 
 }  // namespace tools

@@ -1,16 +1,17 @@
 // Plays a scenario: starts the program as its client, sends it messages, uses its dialogs, checks its answers.
+#include <getopt.h>
+
 #include <filesystem>
-#include <fstream>
 #include <iostream>
-#include <iterator>
 #include <optional>
 
+#include "tools/files.h"
 #include "tools/scenario_player.h"
 #include "tools/virtual_display.h"
 
 namespace {
 
-char const* const usage =
+constexpr char const* kUsage =
     "usage: scripted_client [--interactive] [--virtual-display] [--output DIRECTORY] SCENARIO PROGRAM [ARGUMENT...]\n";
 
 struct CommandLine {
@@ -19,31 +20,24 @@ struct CommandLine {
     bool virtual_display = false;
 };
 
-std::optional<CommandLine> Read(std::vector<std::string> arguments) {
+std::optional<CommandLine> Read(int argc, char** argv) {
+    static option const options[] = {{"interactive", no_argument, nullptr, 'i'},
+                                     {"virtual-display", no_argument, nullptr, 'v'},
+                                     {"output", required_argument, nullptr, 'o'},
+                                     {}};
     CommandLine line;
     line.player.output = ".";
-    auto at = arguments.begin();
-    for (; at != arguments.end() && at->starts_with("--"); ++at) {
-        if (*at == "--interactive")
-            line.player.interactive = true;
-        else if (*at == "--virtual-display")
-            line.virtual_display = true;
-        else if (*at == "--output" && at + 1 != arguments.end())
-            line.player.output = *++at;
-        else
-            return std::nullopt;
+    for (int option = 0; (option = getopt_long(argc, argv, "+", options, nullptr)) != -1;) {
+        if (option == 'i') line.player.interactive = true;
+        if (option == 'v') line.virtual_display = true;
+        if (option == 'o') line.player.output = optarg;
+        if (option == '?') return std::nullopt;
     }
-    if (arguments.end() - at < 2) return std::nullopt;
-    line.scenario = *at++;
-    line.player.launch.program = *at++;
-    line.player.launch.arguments.assign(at, arguments.end());
+    if (argc - optind < 2) return std::nullopt;
+    line.scenario = argv[optind];
+    line.player.launch.program = argv[optind + 1];
+    line.player.launch.arguments.assign(argv + optind + 2, argv + argc);
     return line;
-}
-
-std::string Contents(std::filesystem::path const& path) {
-    std::ifstream file(path);
-    if (!file) throw std::runtime_error("cannot read " + path.string());
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
 void Play(CommandLine line) {
@@ -60,16 +54,16 @@ void Play(CommandLine line) {
     line.player.reads_resources = !line.player.interactive && tools::AddressesCanBeFixed();
     line.player.log = &std::cout;
     tools::ScenarioPlayer player(line.player);
-    player.Play(Contents(line.scenario));
+    player.Play(tools::ReadFile(line.scenario));
     std::cout << "The client received: " << player.LastAnswer() << std::endl;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    auto line = Read({argv + 1, argv + argc});
+    auto const line = Read(argc, argv);
     if (!line) {
-        std::cerr << usage;
+        std::cerr << kUsage;
         return 2;
     }
     try {

@@ -7,11 +7,12 @@ set -euo pipefail
 packages=(
     g++ cmake ninja-build pkg-config
     libx11-dev libxt-dev libxaw7-dev                          # the program
-    libgtest-dev libgmock-dev libxtst-dev libpng-dev          # its tests
+    libgtest-dev libgmock-dev                                 # its tests
+    libxtst-dev libpng-dev libpugixml-dev                     # its scripted client
     libxres-dev                                               # its long runs
     xvfb openbox locales xfonts-base                          # the displays and languages that they run with
     python3                                                   # the translators' tools
-    libbenchmark-dev libexpat1-dev libpugixml-dev             # its benchmarks
+    libbenchmark-dev libexpat1-dev                            # its benchmarks
 )
 packaging=(dpkg-dev file)
 case ${1-} in

@@ -7,7 +7,7 @@ namespace tools {
 
 namespace {
 
-int const deepest_frame = 3;
+constexpr int kDeepestFrame = 3;
 
 struct Family {
     Window parent = None;
@@ -25,15 +25,9 @@ Family FamilyOf(Display* display, Window window) {
     return family;
 }
 
-std::string Taken(char* text) {
-    std::string copy(text ? text : "");
-    XFree(text);
-    return copy;
-}
-
 std::string Spelled(Display* display, Atom type, unsigned long value) {
-    if (type == XA_ATOM) return Taken(XGetAtomName(display, value));
-    return type == XA_WINDOW ? NameOf(display, value) : std::to_string(value);
+    if (type == XA_WINDOW) return NameOf(display, value);
+    return type == XA_ATOM ? AtomName(display, value) : std::to_string(value);
 }
 
 bool HasName(Display* display, Window window, std::string const& name) {
@@ -59,14 +53,19 @@ void IgnoreErrors(Display* display) {
 }
 
 Window FindTopLevel(Display* display, std::string const& name) {
-    return Search(display, DefaultRootWindow(display), name, deepest_frame);
+    return Search(display, DefaultRootWindow(display), name, kDeepestFrame);
 }
 
+std::string AtomName(Display* display, Atom atom) {
+    char* const text = XGetAtomName(display, atom);
+    std::string name(text ? text : "unknown");
+    XFree(text);
+    return name;
+}
+
+// The first of the two texts, each of which ends with a zero.
 std::string NameOf(Display* display, Window window) {
-    XClassHint hint{};
-    XGetClassHint(display, window, &hint);
-    XFree(hint.res_class);
-    return Taken(hint.res_name);
+    return PropertyOf(display, window, "WM_CLASS").c_str();
 }
 
 std::string PropertyOf(Display* display, Window window, std::string const& property) {

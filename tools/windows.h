@@ -25,6 +25,9 @@ std::string TitleOf(Display* display, Window window);
 // The instance name of its WM_CLASS.
 std::string NameOf(Display* display, Window window);
 
+// "unknown" for a number that is no atom's.
+std::string AtomName(Display* display, Atom atom);
+
 // A property's text, or its first value: the name of an atom or of another window, otherwise a number. Empty when the window
 // has no such property.
 std::string PropertyOf(Display* display, Window window, std::string const& property);

@@ -2,7 +2,7 @@
 
 #include <mutex>
 
-// A plain lock between threads. The thread that holds it may take it again and then owes as many unlocks as locks.
+// A plain lock between threads. The thread that holds it may take it once more and then owes as many unlocks as locks.
 //
 // Not copyable: it stands inside what it guards. Take it through an AccessLocker.
 class AccessLock {

@@ -4,49 +4,33 @@
 #include <cerrno>
 #include <limits>
 
-#include "channel/mutex.h"
-
 namespace UnixPlatform {
-
-using Locker = PlatformLocker<EventError>;
 
 namespace {
 
-// The longest wait with a deadline: one microsecond short of 0xFFFFFFFF milliseconds.
-constexpr TimeInterval longest_timed_wait(4'294'967'294'999);
+using SignalLocker = PlatformLocker<EventError>;
 
+// One microsecond short of 0xFFFFFFFF milliseconds.
+constexpr TimeInterval kLongestTimedWait(4'294'967'294'999);
+
+// The latest second is one below the largest value, so that carrying the nanoseconds cannot overflow.
 time_t AddSeconds(time_t now, long long seconds) {
-    // One below the largest value, so that carrying the nanoseconds cannot overflow.
     constexpr time_t latest = std::numeric_limits<time_t>::max() - 1;
     return now > latest - seconds ? latest : static_cast<time_t>(now + seconds);
 }
 
+class EventLocker {
+  public:
+    explicit EventLocker(Mutex& mutex) : mutex_(WaitForMutex(mutex)) {}
+    ~EventLocker() { ReleaseMutex(mutex_); }
+    EventLocker(EventLocker const&) = delete;
+    EventLocker& operator=(EventLocker const&) = delete;
+
+  private:
+    Mutex* mutex_;
+};
+
 }  // namespace
-
-EventSignal::~EventSignal() {
-    pthread_cond_destroy(&wakeup_);
-    pthread_mutex_destroy(&mutex_);
-}
-
-void EventSignal::Fire() {
-    Locker locker(mutex_);
-    fired_ = true;
-    ThrowError<EventError>(pthread_cond_signal(&wakeup_));
-}
-
-bool EventSignal::WaitOnSignal(TimeInterval timeout) {
-    Locker locker(mutex_);
-    if (fired_) return true;
-    if (timeout > longest_timed_wait) {
-        ThrowError<EventError>(pthread_cond_wait(&wakeup_, &mutex_));
-        return true;
-    }
-    timespec const deadline = ConvertToTimeout(timeout, ThrowError<EventError>);
-    int const result = pthread_cond_timedwait(&wakeup_, &mutex_, &deadline);
-    if (result == ETIMEDOUT) return false;
-    ThrowError<EventError>(result);
-    return true;
-}
 
 timespec ConvertToTimeout(TimeInterval interval, void (*thrower)(int)) {
     timespec deadline{};
@@ -61,23 +45,33 @@ timespec ConvertToTimeout(TimeInterval interval, void (*thrower)(int)) {
     return deadline;
 }
 
-namespace {
+EventSignal::~EventSignal() {
+    pthread_cond_destroy(&wakeup_);
+    pthread_mutex_destroy(&mutex_);
+}
 
-class MutexHolder {
-  public:
-    explicit MutexHolder(Mutex& mutex) : mutex_(WaitForMutex(mutex)) {}
-    ~MutexHolder() { ReleaseMutex(mutex_); }
-    MutexHolder(MutexHolder const&) = delete;
-    MutexHolder& operator=(MutexHolder const&) = delete;
+void EventSignal::Fire() {
+    SignalLocker locker(mutex_);
+    fired_ = true;
+    ThrowError<EventError>(pthread_cond_signal(&wakeup_));
+}
 
-  private:
-    Mutex* mutex_;
-};
-
-}  // namespace
+bool EventSignal::WaitOnSignal(TimeInterval timeout) {
+    SignalLocker locker(mutex_);
+    if (fired_) return true;
+    if (timeout > kLongestTimedWait) {
+        ThrowError<EventError>(pthread_cond_wait(&wakeup_, &mutex_));
+        return true;
+    }
+    timespec const deadline = ConvertToTimeout(timeout, ThrowError<EventError>);
+    int const result = pthread_cond_timedwait(&wakeup_, &mutex_, &deadline);
+    if (result == ETIMEDOUT) return false;
+    ThrowError<EventError>(result);
+    return true;
+}
 
 void Event::SetEvent() {
-    MutexHolder holder(mutex_);
+    EventLocker locker(mutex_);
     signalled_ = true;
     while (!links_.empty()) {
         EventLink* link = links_.front();
@@ -87,18 +81,18 @@ void Event::SetEvent() {
 }
 
 void Event::ResetEvent() {
-    MutexHolder holder(mutex_);
+    EventLocker locker(mutex_);
     signalled_ = false;
 }
 
 void Event::AddSignal(EventLink& link) const {
-    MutexHolder holder(mutex_);
+    EventLocker locker(mutex_);
     if (signalled_) throw AlreadySignaled();
     links_.push_back(&link);
 }
 
 void Event::RemoveSignal(EventLink& link) const {
-    MutexHolder holder(mutex_);
+    EventLocker locker(mutex_);
     links_.remove(&link);
 }
 

@@ -9,11 +9,18 @@
 #include "foundation/base/debuggable_exception.h"
 #include "foundation/time/instant.h"
 
+// Conditions that threads wait for, one or two at once and for a limited time.
+//
+// Each waiter owns a signal and links it to the events that may fire it. The event's mutex is taken before that of a
+// signal, never the other way round. Failures of the platform are thrown as MutexError or EventError.
 namespace UnixPlatform {
 
+// The absolute time on the real-time clock at which `interval`, counted from now, is over: what pthread_cond_timedwait
+// takes. A negative interval counts as zero, the seconds saturate. `thrower` is called with errno when the clock cannot
+// be read, and should throw (ThrowError<> does).
+timespec ConvertToTimeout(TimeInterval interval, void (*thrower)(int));
+
 // What one waiting thread waits on: fired once, it stays fired.
-//
-// One waiter owns it and links it to the events that may fire it. Failures are thrown as EventError.
 class EventSignal {
   public:
     EventSignal() = default;
@@ -35,23 +42,17 @@ class EventSignal {
     bool fired_ = false;
 };
 
-// The absolute time on the real-time clock at which `interval`, counted from now, is over: what pthread_cond_timedwait
-// takes. A negative interval counts as zero, the seconds saturate. `thrower` is called with errno when the clock cannot
-// be read, and should throw (ThrowError<> does).
-timespec ConvertToTimeout(TimeInterval interval, void (*thrower)(int));
-
-class EventLink;
-
 // A signal was linked to an event that is already set.
 class AlreadySignaled : public DebuggableException {
   public:
     AlreadySignaled() : DebuggableException("AlreadySignaled") {}
 };
 
+class EventLink;
+
 // A condition that threads wait for: set, it stays set and lets every waiter through until it is reset.
 //
-// Any thread may call. The event's mutex is taken before that of a signal, never the other way round. It must outlive
-// every link to it. Failures of the platform are thrown as MutexError or EventError.
+// Any thread may call. It must outlive every link to it.
 class Event {
   public:
     Event() = default;

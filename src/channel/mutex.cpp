@@ -1,7 +1,5 @@
 #include "channel/mutex.h"
 
-#include <cerrno>
-
 namespace UnixPlatform {
 
 using Locker = PlatformLocker<MutexError>;
@@ -37,7 +35,6 @@ Mutex* TryMutex(Mutex& mutex) {
 void ReleaseMutex(Mutex* mutex) {
     if (!mutex) return;
     Locker locker(mutex->platform_mutex_);
-    if (mutex->count_ == 0 || !mutex->Available()) throw MutexError(EPERM);
     if (--mutex->count_ == 0) ThrowError<MutexError>(pthread_cond_signal(&mutex->released_));
 }
 

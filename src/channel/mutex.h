@@ -51,7 +51,7 @@ class PlatformLocker {
 
 // A recursive mutex built by hand, so that it knows its owner and can be tried without blocking.
 //
-// The owner may take it again and then owes as many releases. All failures of the platform are thrown as MutexError.
+// The owner may take it once more and then owes as many releases. Failures of the platform are thrown as MutexError.
 // It must be free, with nobody waiting, when it is destroyed.
 class Mutex {
   public:
@@ -84,8 +84,8 @@ Mutex* WaitForMutex(Mutex& mutex);
 // The same without blocking: null when another thread owns it.
 Mutex* TryMutex(Mutex& mutex);
 
-// Gives back one acquisition, and with the last one wakes one waiter. Null is ignored. A thread that does not own the
-// mutex gets MutexError with EPERM, and nothing changes.
+// Gives back one acquisition, and with the last one wakes one waiter. Null is ignored. Only the thread that owns the
+// mutex may call it.
 void ReleaseMutex(Mutex* mutex);
 
 }  // namespace UnixPlatform

@@ -8,31 +8,15 @@
 
 #include "foundation/base/never_destroyed.h"
 
-void MilliSecondSleep(unsigned milliseconds) {
-    using namespace std::chrono;
-    if (milliseconds >= 1000) std::this_thread::sleep_for(seconds(milliseconds / 1000));
-    std::this_thread::sleep_for(microseconds(milliseconds % 1000 * 1000));
-}
-
-static std::vector<void (*)()>& Routines() {
-    static auto& routines = NeverDestroyed<std::vector<void (*)()>>();
-    return routines;
-}
-
-void AtThreadExit(void (*routine)()) {
-    Routines().push_back(routine);
-}
-
-void DoThreadExitRoutines() {
-    for (auto routine : Routines()) routine();
-}
-
-std::atomic<bool> ThreadKiller::m_kill = false;
-UnixPlatform::Event& ThreadKiller::m_Event = NeverDestroyed<UnixPlatform::Event>();
+namespace {
 
 using StartBlock = PortableThread::StartBlock;
+using Routines = std::vector<void (*)()>;
 
-namespace {
+Routines& ExitRoutines() {
+    static Routines& routines = NeverDestroyed<Routines>();
+    return routines;
+}
 
 bool Succeeded(int error, char const* call) {
     if (error == 0) return true;
@@ -43,8 +27,8 @@ bool Succeeded(int error, char const* call) {
 bool RaiseStackSize(pthread_attr_t& attributes) {
     std::size_t size = 0;
     if (!Succeeded(pthread_attr_getstacksize(&attributes, &size), "pthread_attr_getstacksize")) return false;
-    if (size >= PortableThread::minimum_stack_size) return true;
-    return Succeeded(pthread_attr_setstacksize(&attributes, PortableThread::minimum_stack_size),
+    if (size >= PortableThread::kMinimumStackSize) return true;
+    return Succeeded(pthread_attr_setstacksize(&attributes, PortableThread::kMinimumStackSize),
                      "pthread_attr_setstacksize");
 }
 
@@ -69,6 +53,12 @@ void Swallowing(Procedure procedure) {
 }
 
 }  // namespace
+
+void MilliSecondSleep(unsigned milliseconds) {
+    using namespace std::chrono;
+    if (milliseconds >= 1000) std::this_thread::sleep_for(seconds(milliseconds / 1000));
+    std::this_thread::sleep_for(microseconds(milliseconds % 1000 * 1000));
+}
 
 PortableThread* PortableThread::CreatePortableThreadSuspended(Function function, void* argument) {
     return function ? new PortableThread(function, argument, false) : nullptr;
@@ -125,3 +115,14 @@ void* PortableThread::WaitForCompletion(void* start_block) {
     Swallowing(DoThreadExitRoutines);
     return nullptr;
 }
+
+void AtThreadExit(void (*routine)()) {
+    ExitRoutines().push_back(routine);
+}
+
+void DoThreadExitRoutines() {
+    for (auto routine : ExitRoutines()) routine();
+}
+
+std::atomic<bool> ThreadKiller::m_kill = false;
+UnixPlatform::Event& ThreadKiller::m_Event = NeverDestroyed<UnixPlatform::Event>();

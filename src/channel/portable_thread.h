@@ -10,27 +10,6 @@
 // Sleeps that long; a signal does not cut the sleep short.
 void MilliSecondSleep(unsigned milliseconds);
 
-// Routines that every PortableThread runs at its end, process-wide.
-//
-// There is no lock: register during start-up, before the first thread runs. The registry is built on first use and
-// never torn down, since threads may end while the process exits.
-
-// Registers a routine; it runs once at the end of each thread, after those registered before it.
-void AtThreadExit(void (*routine)());
-
-// Runs the registered routines on the calling thread, in the order of their registration.
-void DoThreadExitRoutines();
-
-// The process-wide wish that service threads end. The pipe loops look at the flag on every pass; nothing in this
-// process sets it.
-//
-// Threads may look while the process exits, so neither member is ever destroyed.
-class ThreadKiller {
-  public:
-    static std::atomic<bool> m_kill;
-    static UnixPlatform::Event& m_Event;
-};
-
 // A detached thread with a life cycle that cleans up after itself.
 //
 // An owned thread is shared by its owner and the thread: the object stays valid until the owner calls Abandon, however
@@ -38,13 +17,13 @@ class ThreadKiller {
 // thread polling once a millisecond for ever. The two meet only through two flags. A fire-and-forget thread has no
 // owner and frees everything as soon as its function returns.
 //
-// What a thread's function throws is swallowed. When it is done, the thread runs the routines of thread_exit.h.
+// What a thread's function throws is swallowed. At its end the thread runs what AtThreadExit registered.
 class PortableThread {
   public:
     using Function = void (*)(void*);
 
     // The least stack of every thread, in bytes: a smaller default of the platform is raised to it, a larger one kept.
-    static constexpr std::size_t minimum_stack_size = 0x80000;
+    static constexpr std::size_t kMinimumStackSize = 0x80000;
 
     // An owned thread that waits for Start; null when the function is null. Until Start has succeeded the caller may
     // delete it.
@@ -54,8 +33,9 @@ class PortableThread {
     // A fire-and-forget thread. Answers whether it started.
     static bool RunPortableThread(Function function, void* argument);
 
-    // Starts the thread, unless that was done already, and answers whether it runs. A failure goes to standard error as
-    // one line and leaves an object that can only be deleted. Must have returned before Abandon is called.
+    // Starts the thread and answers whether it runs; a call after the first does nothing and answers true. A failure
+    // goes to standard error as one line and leaves an object that can only be deleted. Must have returned before Abandon
+    // is called.
     bool Start();
 
     // The owner's last call: from now on the object may vanish at any moment.
@@ -91,4 +71,23 @@ class PortableThread {
     bool not_started_ = true;
     bool run_to_completion_;
     pthread_t handle_{};
+};
+
+// Registers a routine that every PortableThread runs once at its end, after those registered before it.
+//
+// There is no lock: register during start-up, before the first thread runs. Threads may end while the process exits, so
+// the registry is never torn down.
+void AtThreadExit(void (*routine)());
+
+// Runs the registered routines on the calling thread.
+void DoThreadExitRoutines();
+
+// The process-wide wish that service threads end. The pipe loops look at the flag on every pass; nothing in this
+// process sets it.
+//
+// Threads may look while the process exits, so neither member is ever destroyed.
+class ThreadKiller {
+  public:
+    static std::atomic<bool> m_kill;
+    static UnixPlatform::Event& m_Event;
 };

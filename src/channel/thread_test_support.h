@@ -1,12 +1,8 @@
 #pragma once
 
 #include <pthread.h>
-#include <signal.h>
-#include <unistd.h>
 
 #include <atomic>
-#include <cstdlib>
-#include <filesystem>
 
 #include "channel/portable_thread.h"
 #include "tools/waiting.h"
@@ -24,27 +20,12 @@ inline void ResetEndedThreads() {
     ended_threads = 0;
 }
 
-// Sets the stack that threads get by default. With the second size below, no thread can be started.
+// Sets the stack that threads get by default.
+inline constexpr std::size_t kOrdinaryStack = 0x800000;
 inline void SetDefaultStackSize(std::size_t size) {
     pthread_attr_t attributes;
     pthread_getattr_default_np(&attributes);
     pthread_attr_setstacksize(&attributes, size);
     pthread_setattr_default_np(&attributes);
     pthread_attr_destroy(&attributes);
-}
-inline constexpr std::size_t ordinary_stack = 0x800000;
-inline constexpr std::size_t more_stack_than_there_is = std::size_t{1} << 47;
-
-// Interrupts the system calls of every thread but the calling one, `count` times over.
-inline void InterruptOtherThreads(int count) {
-    static std::atomic<int> handled;
-    struct sigaction action = {};
-    action.sa_handler = [](int) { ++handled; };  // and no SA_RESTART
-    sigaction(SIGUSR1, &action, nullptr);
-    for (handled = 0; handled < count;) {
-        for (auto const& task : std::filesystem::directory_iterator("/proc/self/task"))
-            if (int thread = std::atoi(task.path().filename().c_str()); thread != gettid())
-                tgkill(getpid(), thread, SIGUSR1);
-        std::this_thread::sleep_for(std::chrono::microseconds(200));
-    }
 }

@@ -2,10 +2,9 @@
 
 #include <utility>
 
-void UIMessageQueue::WriteMessage(UIMessage const& message) {
-    UIMessage copy(message);
+void UIMessageQueue::WriteMessage(UIMessage&& message) {
     AccessLocker locker(lock_);
-    messages_.Append(std::move(copy));
+    messages_.Append(std::move(message));
 }
 
 void UIMessageQueue::ReadMessages(FiFoQueue<UIMessage>& out) {

@@ -14,26 +14,17 @@
 class UIMessage {
   public:
     UIMessage() = default;
-    explicit UIMessage(UStringRef<UTF8> text, std::uint32_t kind = 0) : kind_(kind), text_(text) {}
-    explicit UIMessage(ResourceTransfer<AutoUString<UTF8>> text, std::uint32_t kind = 0)
-        : kind_(kind), text_(std::move(text)) {}
-    UIMessage(UIMessage const& other) : UIMessage(other.Text(), other.kind_) {}
-    UIMessage(UIMessage&&) noexcept = default;
-    UIMessage& operator=(UIMessage other) noexcept {
-        kind_ = other.kind_;
-        text_ = std::move(other.text_);
-        return *this;
-    }
+    explicit UIMessage(CopiedUString<UTF8> text, std::uint32_t kind = 0) : kind_(kind), text_(std::move(text)) {}
 
     std::uint32_t Kind() const { return kind_; }
 
-    // Valid as long as the message is neither assigned to nor destroyed. Not known to be valid UTF-8: what the client
-    // sends is taken as it comes.
-    UStringRef<UTF8> Text() const { return {text_.begin(), text_.end()}; }
+    // Valid as long as the message is neither assigned to nor destroyed. What the client sends is taken as it comes, and
+    // need not be valid UTF-8.
+    UStringRef<UTF8> Text() const { return text_; }
 
   private:
     std::uint32_t kind_ = 0;
-    AutoUString<UTF8> text_;
+    CopiedUString<UTF8> text_;
 };
 
 // The messages that one thread hands to another, first in first out.
@@ -42,8 +33,9 @@ class UIMessage {
 // serves must outlive that thread, which may run until the process is gone: such a queue is never destroyed.
 class UIMessageQueue {
   public:
-    // Appends a copy of `message`.
-    void WriteMessage(UIMessage const& message);
+    // Appends a copy of `message`, or takes over one that its owner gives away.
+    void WriteMessage(UIMessage const& message) { WriteMessage(UIMessage(message)); }
+    void WriteMessage(UIMessage&& message);
 
     // Exchanges the whole content with `out`, which the caller passes empty: it receives every message queued so far,
     // in order. The time under the lock does not grow with their number.

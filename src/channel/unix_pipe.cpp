@@ -3,19 +3,44 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <array>
 #include <limits>
 #include <memory>
 #include <utility>
 
 #include "channel/portable_thread.h"
-#include "channel/resumed.h"
+#include "foundation/base/resumed.h"
 
 namespace {
 
+// The body of a thread, which gives its reference back at the end.
 template <void (UnixPipe::*serve)()>
 void ServePipe(void* argument) {
     std::unique_ptr<UnixPipeRef> reference(static_cast<UnixPipeRef*>(argument));
     ((**reference).*serve)();
+}
+
+using Header = std::array<unsigned char, 4>;
+
+Header ToHeader(std::uint32_t size) {
+    Header header;
+    for (unsigned i = 0; i < header.size(); ++i) header[i] = static_cast<unsigned char>(size >> 8 * i);
+    return header;
+}
+
+std::uint32_t FromHeader(Header const& header) {
+    std::uint32_t size = 0;
+    for (unsigned i = 0; i < header.size(); ++i) size |= std::uint32_t{header[i]} << 8 * i;
+    return size;
+}
+
+void ReadWhole(int descriptor, unsigned char* buffer, std::size_t size) {
+    while (size > 0) {
+        ssize_t const count = Resumed([&] { return read(descriptor, buffer, size); });
+        if (count <= 0) throw UnixPipeReadMessageError();
+        buffer += count;
+        size -= static_cast<std::size_t>(count);
+    }
 }
 
 }  // namespace
@@ -117,7 +142,7 @@ void UnixPipe::ServiceReadLoop() {
         while (MayServe(reader_)) {
             UIMessage message;
             ReadMessageFromPipe(message);
-            inbound_.WriteMessage(message);
+            inbound_.WriteMessage(std::move(message));
         }
     } catch (...) {
     }
@@ -134,55 +159,30 @@ void UnixPipe::ServiceWriteLoop() {
                 if (message.Text().empty()) return Kill();
                 WriteMessageToPipe(message);
             }
-            Sleep(writer_period);
+            Sleep(kWriterPeriod);
         }
     } catch (...) {
     }
     Kill();
 }
 
-// The format of frames, in both directions.
-
-namespace {
-
-constexpr std::size_t header_size = 4;
-
-void ReadWhole(int descriptor, unsigned char* buffer, std::size_t size) {
-    while (size > 0) {
-        ssize_t const count = Resumed([&] { return read(descriptor, buffer, size); });
-        if (count <= 0) throw UnixPipeReadMessageError();
-        buffer += count;
-        size -= static_cast<std::size_t>(count);
-    }
-}
-
-std::uint32_t FromLittleEndian(unsigned char const (&bytes)[header_size]) {
-    return std::uint32_t{bytes[0]} | std::uint32_t{bytes[1]} << 8 | std::uint32_t{bytes[2]} << 16 |
-           std::uint32_t{bytes[3]} << 24;
-}
-
-}  // namespace
-
 void UnixPipe::ReadMessageFromPipe(UIMessage& message) {
     int const descriptor = InputDescriptor();
-    unsigned char header[header_size];
-    ReadWhole(descriptor, header, header_size);
-    std::uint32_t const size = FromLittleEndian(header);
-    if (size > longest_payload) throw UnixPipeReadMessageError();
-    auto payload = std::make_unique_for_overwrite<unsigned char[]>(size);
-    ReadWhole(descriptor, payload.get(), size);
-    message = UIMessage(UStringRef<UTF8>(payload.get(), payload.get() + size));
+    Header header;
+    ReadWhole(descriptor, header.data(), header.size());
+    std::uint32_t const size = FromHeader(header);
+    if (size > kLongestPayload) throw UnixPipeReadMessageError();
+    AutoUString<UTF8> text(size);
+    ReadWhole(descriptor, text.data(), size);
+    message = UIMessage(std::move(text));
 }
 
 void UnixPipe::WriteMessageToPipe(UIMessage const& message) {
     UStringRef<UTF8> const text = message.Text();
     if (text.empty()) return;
     if (text.size() > std::numeric_limits<std::uint32_t>::max()) throw UnixPipeWriteMessageError();
-    auto const size = static_cast<std::uint32_t>(text.size());
-    unsigned char const header[header_size] = {static_cast<unsigned char>(size), static_cast<unsigned char>(size >> 8),
-                                               static_cast<unsigned char>(size >> 16),
-                                               static_cast<unsigned char>(size >> 24)};
-    WriteWhole(header, header_size);
+    Header const header = ToHeader(static_cast<std::uint32_t>(text.size()));
+    WriteWhole(header.data(), header.size());
     WriteWhole(text.begin(), text.size());
 }
 

@@ -9,6 +9,18 @@
 #include "channel/ui_message_queue.h"
 #include "foundation/base/debuggable_exception.h"
 
+class PortableThread;
+
+// A frame could not be read or written whole, or was refused. The pipe is of no use afterwards.
+class UnixPipeReadMessageError : public DebuggableException {
+  public:
+    UnixPipeReadMessageError() : DebuggableException("UnixPipeReadMessageError") {}
+};
+class UnixPipeWriteMessageError : public DebuggableException {
+  public:
+    UnixPipeWriteMessageError() : DebuggableException("UnixPipeWriteMessageError") {}
+};
+
 // Closes the descriptor that a field holds when this object goes, and clears the field.
 //
 // The value 0 means "none": so the process's standard input is deliberately never closed.
@@ -27,27 +39,15 @@ class PipeCloser {
     int& descriptor_;
 };
 
-class PortableThread;
-
-// The stream of frames ended, was refused, or could not be read or written whole. The pipe is of no use afterwards.
-class UnixPipeReadMessageError : public DebuggableException {
-  public:
-    UnixPipeReadMessageError() : DebuggableException("UnixPipeReadMessageError") {}
-};
-class UnixPipeWriteMessageError : public DebuggableException {
-  public:
-    UnixPipeWriteMessageError() : DebuggableException("UnixPipeWriteMessageError") {}
-};
-
 // The connection to the client: two descriptors, a thread that reads one into a queue and a thread that writes the
 // other from a queue. It notices when the client has gone.
 //
 // A frame, either way, is the length of the text in bytes (unsigned 32-bit, little-endian) and then the text in UTF-8.
 //
-// Every failure ends in Kill; nothing is retried or reported. Whoever uses the pipe learns of it from Killed alone.
-// The process must ignore SIGPIPE.
+// Every failure ends in Kill, nothing is tried a second time. Whoever uses the pipe learns of it from Killed alone. The
+// process must ignore SIGPIPE.
 //
-// Any thread may call what stands under "threads and users". The state lock is never held across a read or write, and
+// Any thread may call Kill, Killed and what counts references. The state lock is never held across a read or write, and
 // never together with the count lock, so Kill does not wait for a client that has stopped reading.
 //
 // The pipe lives on the heap and is shared by counted references (UnixPipeRef), of which each thread holds one; the
@@ -55,11 +55,11 @@ class UnixPipeWriteMessageError : public DebuggableException {
 // reader that blocks goes on until its client closes.
 class UnixPipe {
   public:
-    // The longest text that is accepted from the client, in bytes. What is sent is not limited.
-    static constexpr std::uint32_t longest_payload = 0x200000;
+    // The longest text that is accepted from the client, in bytes. What is sent may be as long as a header can say.
+    static constexpr std::uint32_t kLongestPayload = 0x200000;
 
-    // How long the writer sleeps between two looks at its queue, in milliseconds: the most that a message waits.
-    static constexpr unsigned writer_period = 100;
+    // How long the writer sleeps between two looks at its queue, in milliseconds: the most that a message waits for it.
+    static constexpr unsigned kWriterPeriod = 100;
 
     // No descriptors and no threads yet. `inbound` receives what the client sends, `outbound` is what goes to it.
     UnixPipe(UIMessageQueue& inbound, UIMessageQueue& outbound) : inbound_(inbound), outbound_(outbound) {}
@@ -87,7 +87,7 @@ class UnixPipe {
     void Sleep(unsigned milliseconds) const;
 
     // Takes one frame from the input descriptor, blocking until it is whole. Throws UnixPipeReadMessageError when the
-    // stream ends first, cannot be read, or announces more than longest_payload (whose bytes are then left unread).
+    // stream ends first, cannot be read, or announces more than kLongestPayload (whose bytes are then left unread).
     void ReadMessageFromPipe(UIMessage& message);
 
     // Writes one frame to the output descriptor, blocking until it is taken; a message without text writes nothing. The

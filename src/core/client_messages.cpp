@@ -1,6 +1,7 @@
 #include "core/client_messages.h"
 
 #include <string_view>
+#include <utility>
 
 #include "core/process/process_state.h"
 #include "dialogs/action_request_dialog.h"
@@ -16,15 +17,12 @@ namespace {
 using Batch = FiFoQueue<UIMessage>;
 
 // The messages behind the one that initialized the process, until the next call.
-Batch& DeferredMessages() {
-    static Batch& deferred = NeverDestroyed<Batch>();
-    return deferred;
-}
+Batch& deferredMessages = NeverDestroyed<Batch>();
 
 void HandleActionRequest(XMLElement const& element) {
     ActionRequest request;
     XMLSerialize(element, request);
-    actions.Append(request);
+    actions.Append(std::move(request));
     UpdateActionRequestDialog();
     DrawAttentionToActionRequestDialog();
     // Brings the dialog up even while a snooze is running: that is meant, the user has not put this request off.
@@ -57,7 +55,7 @@ void HandleQuietModeStart(XMLElement const& element) {
     DisableActionRequestDialog();
 }
 
-void HandleQuietModeEnd() {
+void HandleQuietModeEnd(XMLElement const&) {
     inQuietMode = false;
     RemoveQuietModeDialog();
     if (!IsActionRequestDialogShown()) return;
@@ -65,42 +63,47 @@ void HandleQuietModeEnd() {
     EnableActionRequestDialog();
 }
 
-// Returns whether the element initialized the process.
-bool HandleInitializationInfo(XMLElement const& element) {
-    if (initialized) return false;
+void HandleInitializationInfo(XMLElement const& element) {
+    if (initialized) return;
     InitializationInfo info;
     XMLSerialize(element, info);
     ApplyInitializationInfo(info);
-    return true;
 }
 
-// Unknown names are ignored: a newer client may send them. Returns whether the element initialized the process.
-bool HandleElement(XMLElement const& element) {
-    std::string_view name = element.Name().AsStringView();
-    if (name == "ActionRequest") HandleActionRequest(element);
-    if (name == "InitializationInfo") return HandleInitializationInfo(element);
-    if (name == "RemoveRequest") HandleRemoveRequest(element);
-    if (name == "MessageRequest") HandleMessageRequest(element);
-    if (name == "QuietModeStart") HandleQuietModeStart(element);
-    if (name == "QuietModeEnd") HandleQuietModeEnd();
-    return false;
+struct Handler {
+    std::string_view name;
+    void (*handle)(XMLElement const&);
+};
+
+constexpr Handler kHandlers[] = {
+    {"ActionRequest", HandleActionRequest},   {"InitializationInfo", HandleInitializationInfo},
+    {"RemoveRequest", HandleRemoveRequest},   {"MessageRequest", HandleMessageRequest},
+    {"QuietModeStart", HandleQuietModeStart}, {"QuietModeEnd", HandleQuietModeEnd},
+};
+
+// Unknown names are ignored: a newer client may send them.
+void HandleElement(XMLElement const& element) {
+    for (auto const& [name, handle] : kHandlers)
+        if (element.Name().AsStringView() == name) return handle(element);
 }
 
-// Whatever the root is called, its children are the commands. Returns whether one of them initialized the process; those
-// behind it are dropped.
-bool HandleMessage(UIMessage const& message) {
-    if (message.Text().empty()) return false;
-    auto root = SimpleXML::Parse(message.Text());
-    for (XMLElement const& element : root->Children())
-        if (HandleElement(element)) return true;
-    return false;
+// Whatever the root is called, its children are the commands. Those behind the one that initializes the process are
+// dropped.
+void HandleMessage(UIMessage const& message) {
+    if (message.Text().empty()) return;
+    auto const root = SimpleXML::Parse(message.Text());
+    bool const before = initialized;
+    for (XMLElement const& element : root->Children()) {
+        HandleElement(element);
+        if (initialized != before) return;
+    }
 }
 
 void HandleBatch(Batch& batch) {
+    bool const before = initialized;
     while (!batch.IsEmpty()) {
-        if (!HandleMessage(batch.TakeFront())) continue;
-        DeferredMessages().Swap(batch);
-        return;
+        HandleMessage(batch.TakeFront());
+        if (initialized != before) return deferredMessages.Swap(batch);
     }
 }
 
@@ -108,16 +111,16 @@ void HandleBatch(Batch& batch) {
 
 void ProcessMessagesFromClient() try {
     Batch batch;
-    if (DeferredMessages().IsEmpty())
+    if (deferredMessages.IsEmpty())
         readQ.ReadMessages(batch);
     else
-        DeferredMessages().Swap(batch);
+        deferredMessages.Swap(batch);
     HandleBatch(batch);
 } catch (...) {
     // Meant: the client learns of a bad message only from the absence of a reaction.
 }
 
 void RemoveAction(unsigned long long id) {
-    auto position = actions.Find(id);
+    auto const position = actions.Find(id);
     if (position < actions.size()) actions.Erase(position);
 }

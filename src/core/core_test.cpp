@@ -1,220 +1,182 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cctype>
 #include <chrono>
+#include <map>
+#include <sstream>
 #include <string>
-#include <vector>
 
 #include "core/client_messages.h"
-#include "core/process/client_writer.h"
 #include "core/process/process_state.h"
 #include "core/process/ui_command.h"
 #include "core/tick.h"
 #include "core/ui_commands.h"
 #include "tools/client_messages.h"
 
-// Dispatch, commands and the tick's sweep, without a display: every dialog function then only does what concerns the
-// pending list.
+// Dispatch, commands and the tick's sweep, without a display: every dialog function then does nothing.
 
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-using Names = std::vector<std::string>;
+using tools::Element;
 
-std::string Request(unsigned long long id, std::string const& more = "") {
-    return "<ActionRequest><ID>" + std::to_string(id) + "</ID>" + more + "</ActionRequest>";
+// An action in short: its ID, a digit; its confirmation text, a small letter; its title, a capital.
+std::string Request(std::string const& action, std::string const& more = "") {
+    std::string fields = more;
+    for (char const letter : action) {
+        bool const digit = std::isdigit(letter), small = std::islower(letter);
+        fields += Element(digit ? "ID" : small ? "PreActionMessage" : "Title", std::string(1, letter));
+    }
+    return Element("ActionRequest", fields);
 }
-std::string Removal(unsigned long long id, std::string const& type) {
-    return "<RemoveRequest><RemoveType>" + type + "</RemoveType><ID>" + std::to_string(id) + "</ID></RemoveRequest>";
+std::string Short(ActionRequest const& action) {
+    std::string text = std::to_string(action.id);
+    if (action.pre_action_message) text += action.pre_action_message->Ref().AsStringView();
+    return text.append(action.title.Ref().AsStringView());
 }
-std::string Taken(unsigned long long id) {
-    return "ActionTaken ID=" + std::to_string(id) + " IsCancel=false IsOffer=false";
+std::string Removal(std::string const& id, std::string const& type = "Action") {
+    return Element("RemoveRequest", Element("RemoveType", type) + Element("ID", id));
 }
-char const kAsk[] = "<PreActionMessage>Sure?</PreActionMessage>";
-
-std::string Deadline(int secondsFromNow) {
-    auto const time = std::chrono::system_clock::now() + std::chrono::seconds(secondsFromNow);
-    return "<ForceRun>1</ForceRun><Deadline>" + tools::TimeText(time) + "</Deadline>";
+std::string Forced(int seconds_from_now) {
+    auto const time = std::chrono::system_clock::now() + std::chrono::seconds(seconds_from_now);
+    return Element("ForceRun", "1") + Element("Deadline", tools::TimeText(time));
 }
 
 struct CoreTest : testing::Test {
-    void SetUp() override {
+    CoreTest() { Reset(); }
+
+    void Reset() {
         actions.Clear();
-        initialized = true;
+        m_askedAbout.reset();
         m_postponedTo = Instant(INT64_MAX);
         inQuietMode = false;
-        Decide(UICommandType::ConfirmationDeclined);
+        initialized = true;
         Replies();
     }
-
     // Unknown elements count for nothing, nor does the root's name.
     void Receive(std::string const& children) {
-        std::string const document = "<AnyRoot><Unknown></Unknown>" + children + "</AnyRoot>";
+        std::string const document = Element("AnyRoot", Element("Unknown", "") + children);
         readQ.WriteMessage(UIMessage(UStringRef<UTF8>(document)));
         ProcessMessagesFromClient();
     }
-    void Decide(UICommandType type, unsigned long long id = 0, int minutes = 0) {
-        QueueCommand(type, id, minutes, 0);
+    void Decide(UICommandType type, unsigned long long id = 0, int minutes = 0, long long deadline_seconds = 0) {
+        QueueCommand(type, id, minutes, deadline_seconds);
         ProcessMessagesFromUI();
     }
-    std::vector<unsigned long long> Pending() {
-        std::vector<unsigned long long> ids;
-        for (auto const& action : actions) ids.push_back(action.id);
-        return ids;
-    }
     // What has been sent since the last call.
-    Names Replies() {
+    std::string Replies() {
         FiFoQueue<UIMessage> sent;
-        Names replies;
-        for (writeQ.ReadMessages(sent); !sent.IsEmpty();)
-            replies.push_back(tools::ReadAnswer(sent.TakeFront().Text().AsStringView()).Text());
+        std::string replies;
+        for (writeQ.ReadMessages(sent); !sent.IsEmpty();) {
+            auto reply = tools::ReadAnswer(sent.TakeFront().Text().AsStringView());
+            if (reply.name == "ActionTaken")
+                replies += (reply.fields["IsCancel"] == "true" ? "cancelled" : "taken") + reply.fields["ID"] + " ";
+            else
+                replies += reply.Text() + " ";
+        }
         return replies;
+    }
+    std::string Pending() {
+        std::string pending;
+        for (auto const& action : actions) pending += Short(action) + " ";
+        return pending;
+    }
+    // Carries out one word: a request after a plus, a withdrawal after a minus, or a decision, with its ID.
+    void Step(std::string const& word) {
+        static std::map<std::string, UICommandType> const decisions = {
+            {"all", UICommandType::TakeAll},     {"take", UICommandType::Take},
+            {"cancel", UICommandType::Cancel},   {"yes", UICommandType::ConfirmationAccepted},
+            {"snooze", UICommandType::Snooze},   {"no", UICommandType::ConfirmationDeclined},
+            {"unknown", UICommandType(12345678)}};
+        auto const id = word.find_first_of("123456789");
+        if (word[0] == '+') return Receive(Request(word.substr(1)));
+        if (word[0] == '-') return Receive(Removal(word.substr(1)));
+        Decide(decisions.at(word.substr(0, id)), id == word.npos ? 0 : std::stoull(word.substr(id)));
+    }
+    // Plays a line of words and tells what came of it: the replies and, as "asked1a", the questions.
+    std::string Play(std::string const& line) {
+        std::istringstream words(line);
+        std::string events;
+        for (std::string word; words >> word;) {
+            std::string const before = m_askedAbout && word != "yes" ? Short(*m_askedAbout) : "";
+            Step(word);
+            events += Replies();
+            if (m_askedAbout && Short(*m_askedAbout) != before) events += "asked" + Short(*m_askedAbout) + " ";
+        }
+        return events;
     }
 };
 
+struct Fact {
+    char const* fact;
+    char const* steps;
+    char const* events;
+    char const* pending;
+};
+
+TEST_F(CoreTest, WhatIsDecidedIsAskedAboutAndAnswered) {
+    Fact const facts[] = {
+        {"a take is answered once", "+1 take1 take1", "taken1 ", ""},
+        {"a cancel is answered once, and never asks", "+1a cancel1 cancel1", "cancelled1 ", ""},
+        {"accepted, it is taken", "+1a take1 yes yes", "asked1a taken1 ", ""},
+        {"declined, it stays", "+1a take1 no yes take1", "asked1a asked1a ", "1a "},
+        {"an answer to no question takes nothing", "+1a +2 yes1 yes2", "", "1a 2 "},
+        {"all are asked about before any is taken", "+1a +2 +3c all yes yes", "asked1a asked3c taken1 taken2 taken3 ",
+         ""},
+        {"one declined abandons all", "+1a +2b all yes no yes all", "asked1a asked2b asked1a ", "1a 2b "},
+        {"nothing else is decided beside a question", "+1a +2 +3c take1 take2 take3 cancel2 all snooze yes",
+         "asked1a taken1 ", "2 3c "},
+        {"nor beside one of a take-all", "+1a +2b all take2 cancel2 all snooze yes yes",
+         "asked1a asked2b taken1 taken2 ", ""},
+        {"of equal IDs the first is taken, and asked about", "+1 +1b take1 take1 yes", "taken1 asked1b taken1 ", ""},
+        {"each entry has its own question", "+1 +1b +1c all yes yes", "asked1b asked1c taken1 taken1 taken1 ", ""},
+        {"another text is asked about", "+1a take1 -1 +1b yes yes", "asked1a asked1b taken1 ", ""},
+        {"and another title", "+1aX take1 -1 +1aY yes", "asked1aX asked1aY ", "1aY "},
+        {"the same question is not", "+1aX take1 -1 +1aX yes", "asked1aX taken1 ", ""},
+        {"without a question it is left to another decision", "+1a take1 -1 +1 yes", "asked1a ", "1 "},
+        {"a withdrawn action is not answered", "+1a take1 -1 yes", "asked1a ", ""},
+        {"a take-all walks on over what has changed", "+1a +2b +3 +4d all yes -1 -3 +1a yes yes yes",
+         "asked1a asked2b asked4d asked1a taken2 taken4 taken1 ", ""},
+        {"over an empty list nothing is put off", "snooze", "", ""},
+        {"a type that nobody knows is nothing", "+1 unknown", "", "1 "},
+    };
+    for (auto const& [fact, steps, events, pending] : facts) {
+        Reset();
+        EXPECT_EQ(Play(steps), events) << fact;
+        EXPECT_EQ(Pending(), pending) << fact;
+    }
+}
+
 TEST_F(CoreTest, RemovalTakesTheFirstOfEqualIDsAndOfferNothing) {
-    Receive(Request(1) + Request(2, "<Title>first</Title>") + Request(2) + Request(3));
-    Receive(Removal(2, "Offer") + Removal(2, "Message") + Removal(9, "Action"));
-    EXPECT_THAT(Pending(), ElementsAre(1, 2, 2, 3));
-    Receive(Removal(2, "Action") + Removal(3, "All") + Removal(1, "offer"));
-    EXPECT_THAT(Pending(), ElementsAre(2));
-    EXPECT_TRUE(actions[0].title.empty());
-}
-
-TEST_F(CoreTest, TakeAndCancelAnswerOnceAndOnlyForPendingActions) {
-    Receive(Request(1) + Request(2, kAsk) + Request(3, kAsk));
-    Decide(UICommandType::Take, 1);
-    Decide(UICommandType::Take, 1);
-    Decide(UICommandType::Cancel, 2);
-    Decide(UICommandType::Cancel, 2);
-    EXPECT_THAT(Replies(), ElementsAre(Taken(1), "ActionTaken ID=2 IsCancel=true IsOffer=false"));
-    Decide(UICommandType::Take, 3);
-    EXPECT_THAT(Replies(), IsEmpty());
-    Decide(UICommandType::ConfirmationDeclined, 3);
-    EXPECT_THAT(Pending(), ElementsAre(3));
-    Decide(UICommandType::ConfirmationAccepted, 3);
-    EXPECT_THAT(Replies(), ElementsAre(Taken(3)));
-    EXPECT_THAT(Pending(), IsEmpty());
-}
-
-TEST_F(CoreTest, ADeclinedQuestionAbandonsTheWholeTakeAll) {
-    Receive(Request(1, kAsk) + Request(2, kAsk));
-    Decide(UICommandType::TakeAll);
-    Decide(UICommandType::ConfirmationAccepted, 1);
-    Decide(UICommandType::ConfirmationDeclined, 2);
-    Decide(UICommandType::ConfirmationAccepted, 2);
-    EXPECT_THAT(Replies(), ElementsAre(Taken(2)));
-    Decide(UICommandType::TakeAll);
-    EXPECT_THAT(Replies(), IsEmpty()) << "it is asked about again";
-    EXPECT_THAT(Pending(), ElementsAre(1));
-}
-
-// Whatever of 1 to 5 is withdrawn, or taken by the sweep, while 3 is asked about: the take-all still asks about each of
-// 1, 3 and 5 that is left before it answers, in the list's order.
-TEST_F(CoreTest, WhateverLeavesDuringATakeAllSkipsNoQuestion) {
-    for (unsigned round = 0; round < 64; ++round) {
-        SetUp();
-        bool const swept = round >= 32;
-        auto leaves = [&](unsigned id) { return (round >> (id - 1) & 1) != 0; };
-        for (unsigned id = 1; id <= 5; ++id)
-            Receive(Request(id, (id % 2 ? kAsk : "") + (swept && leaves(id) ? Deadline(-2) : "")));
-        Decide(UICommandType::TakeAll);
-        Decide(UICommandType::ConfirmationAccepted, 1);
-        Names gone, taken;
-        for (unsigned id = 1; id <= 5; ++id) {
-            (leaves(id) ? gone : taken).push_back(Taken(id));
-            if (leaves(id) && !swept) Receive(Removal(id, "Action"));
-        }
-        if (swept) ServiceTimerTick();
-        EXPECT_EQ(Replies(), swept ? gone : Names()) << round;
-        Decide(UICommandType::ConfirmationAccepted, 3);
-        if (!leaves(5)) {
-            EXPECT_THAT(Replies(), IsEmpty());
-            Decide(UICommandType::ConfirmationAccepted, 5);
-        }
-        EXPECT_EQ(Replies(), taken) << round;
-        EXPECT_THAT(Pending(), IsEmpty());
-    }
-}
-
-TEST_F(CoreTest, AnAnswerToAnotherQuestionDoesNotContinueTheTakeAll) {
-    Receive(Request(1, kAsk) + Request(2, kAsk));
-    Decide(UICommandType::Take, 2);
-    Decide(UICommandType::TakeAll);
-    Decide(UICommandType::ConfirmationAccepted, 2);
-    EXPECT_THAT(Replies(), ElementsAre(Taken(2)));
-    Decide(UICommandType::ConfirmationAccepted, 1);
-    EXPECT_THAT(Replies(), ElementsAre(Taken(1)));
-}
-
-TEST_F(CoreTest, AnAnswerOnItsWayCountsForNoQuestionOfALaterTakeAll) {
-    Receive(Request(1, kAsk) + Request(2, kAsk));
-    for (unsigned long long asked : {1, 2}) {
-        Decide(UICommandType::TakeAll);
-        if (asked == 2) Decide(UICommandType::ConfirmationAccepted, 1);
-        Receive(Removal(2, "Action") + Request(2, "<PreActionMessage>Other?</PreActionMessage>"));
-        QueueCommand(UICommandType::TakeAll, 0, 0, 0);
-        Decide(UICommandType::ConfirmationAccepted, asked);
-        Decide(UICommandType::ConfirmationAccepted, 1);
-        EXPECT_THAT(Replies(), IsEmpty()) << "2 is asked about now";
-        Decide(UICommandType::ConfirmationDeclined, 2);
-        EXPECT_THAT(Replies(), IsEmpty());
-    }
-    EXPECT_THAT(Pending(), ElementsAre(1, 2));
-}
-
-TEST_F(CoreTest, AnAnswerDoesNotCountForAnotherActionOfTheID) {
-    Receive(Request(1, kAsk));
-    Decide(UICommandType::Take, 1);
-    for (std::string const other : {"<PreActionMessage>Other?</PreActionMessage>", "<Title>x</Title>"}) {
-        Receive(Removal(1, "Action") + Request(1, other + kAsk));
-        Decide(UICommandType::ConfirmationAccepted, 1);
-        EXPECT_THAT(Replies(), IsEmpty()) << "it is asked about now";
-    }
-    Receive(Removal(1, "Action") + Request(1, "<Title>x</Title><Restart>1</Restart>" + std::string(kAsk)));
-    Decide(UICommandType::ConfirmationAccepted, 1);
-    EXPECT_THAT(Replies(), ElementsAre(Taken(1))) << "the question is the same";
-    Receive(Request(1, kAsk));
-    Decide(UICommandType::Take, 1);
-    Receive(Removal(1, "Action") + Request(1));
-    Decide(UICommandType::ConfirmationAccepted, 1);
-    EXPECT_THAT(Replies(), IsEmpty());
-    Decide(UICommandType::Take, 1);
-    EXPECT_THAT(Replies(), ElementsAre(Taken(1)));
-}
-
-TEST_F(CoreTest, NothingIsSnoozedOverAnEmptyListWhateverComesBeforeThatIsLookedAt) {
-    Decide(UICommandType::Snooze, 0, 30);
-    QueueCommand(UICommandType::Snooze, 0, 30, 0, true);
-    Receive(Request(1));
-    ProcessMessagesFromUI();
-    EXPECT_THAT(Replies(), IsEmpty());
-    EXPECT_EQ(m_postponedTo, Instant(INT64_MAX));
+    Play("+1 +2X +2 +3");
+    Receive(Removal("2", "Offer") + Removal("2", "Message") + Removal("9"));
+    EXPECT_EQ(Pending(), "1 2X 2 3 ");
+    Receive(Removal("2") + Removal("3", "All") + Removal("1", "offer"));
+    EXPECT_EQ(Pending(), "2 ");
 }
 
 TEST_F(CoreTest, ASnoozeCountsFromNowOrFromTheDeadlineInSecondsOf32Bits) {
-    Receive(Request(1));
+    Play("+1");
     Decide(UICommandType::Snooze, 0, 30);
     EXPECT_NEAR(static_cast<double>((m_postponedTo - Instant::Now()).Microseconds()), 30e6 * 60, 3e6);
-    EXPECT_THAT(Replies(), ElementsAre(testing::StartsWith("RemindTime "), "RemindInterval TimeInterval=PT30M"));
-    QueueCommand(UICommandType::Snooze, 0, -15, (7LL << 32) + 4'102'444'800);
-    ProcessMessagesFromUI();
-    EXPECT_THAT(Replies(), ElementsAre("RemindTime TimeObject=Thu, 31 Dec 2099 23:45:00 +0000",
-                                       "RemindInterval TimeInterval=-PT15M"));
+    EXPECT_THAT(Replies(), testing::MatchesRegex("RemindTime .* RemindInterval TimeInterval=PT30M "));
+    Decide(UICommandType::Snooze, 0, -15, (7LL << 32) + 4'102'444'800);
+    EXPECT_EQ(Replies(), "RemindTime TimeObject=Thu, 31 Dec 2099 23:45:00 +0000 RemindInterval TimeInterval=-PT15M ");
 }
 
-TEST_F(CoreTest, TheSweepTakesOverdueForcedActionsOutsideQuietModeOnly) {
-    Receive(Request(1, Deadline(-2) + kAsk) + Request(2, Deadline(60)) + Request(3, Deadline(-2)) +
-            Request(4, "<Deadline>Thu, 01 Jan 1970 00:00:00 +0000</Deadline>") + Request(5, "<ForceRun>1</ForceRun>"));
+TEST_F(CoreTest, TheSweepTakesOverdueForcedActionsOutsideQuietModeOnlyAndEvenWhileTheyAreAskedAbout) {
+    Receive(Request("1a", Forced(-2)) + Request("2", Forced(60)) + Request("3", Forced(-2)) +
+            Request("4", Element("Deadline", "Thu, 01 Jan 1970 00:00:00 +0000")) +
+            Request("5e", Element("ForceRun", "1")));
+    EXPECT_EQ(Play("all"), "asked1a ");
     // It begins even when its times are bad.
-    Receive("<QuietModeStart><StartTime>never</StartTime></QuietModeStart>");
+    Receive(Element("QuietModeStart", Element("StartTime", "never")));
     ServiceTimerTick();
-    EXPECT_THAT(Replies(), IsEmpty());
-    Receive("<QuietModeEnd></QuietModeEnd>");
+    EXPECT_EQ(Replies(), "");
+    Receive(Element("QuietModeEnd", ""));
     ServiceTimerTick();
-    EXPECT_THAT(Replies(), ElementsAre(Taken(1), Taken(3)));
-    EXPECT_THAT(Pending(), ElementsAre(2, 4, 5));
+    EXPECT_EQ(Replies(), "taken1 taken3 ");
+    EXPECT_EQ(Play("yes yes"), "asked5e taken2 taken4 taken5 ") << "the take-all has kept its place";
 }
 
 }  // namespace

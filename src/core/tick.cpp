@@ -1,5 +1,6 @@
 #include "core/tick.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "core/client_messages.h"
@@ -13,35 +14,30 @@
 
 namespace {
 
-enum class Overdue { No, Soon, Yes };
-
-Overdue DeadlineOf(ActionRequest const& action, Instant now) {
-    if (!action.force_run) return Overdue::No;
-    auto deadline = action.Deadline();
-    if (!deadline) return Overdue::No;
-    if (now > *deadline) return Overdue::Yes;
-    return now + kNearDeadline > *deadline ? Overdue::Soon : Overdue::No;
-}
-
-// Takes without asking: a forced action does not wait for consent beyond its deadline, not even while its confirmation
-// is on the screen.
-void SweepDeadlines() {
-    Instant const now = Instant::Now();
-    bool refresh = false;
-    actions.EraseIf([&](ActionRequest const& action) {
-        auto const overdue = DeadlineOf(action, now);
-        refresh |= overdue != Overdue::No;
-        if (overdue == Overdue::Yes) SendToClient(ClientWriter(), ActionTaken{.id = action.id});
-        return overdue == Overdue::Yes;
-    });
-    if (refresh) UpdateActionRequestDialog();
-}
-
 void OnFirstTick() {
     static bool first = true;
     if (!std::exchange(first, false)) return;
     CreateHiddenWindow();
     OpenWaitingMessageDialogs();
+}
+
+bool IsForcedBefore(ActionRequest const& action, Instant time) {
+    if (!action.force_run) return false;
+    auto const deadline = action.Deadline();
+    return deadline && time > *deadline;
+}
+
+// Takes without asking: a forced action does not wait for consent beyond its deadline, not even while its confirmation
+// is on the screen. One that is near its deadline counts down in the dialog.
+void SweepDeadlines() {
+    Instant const now = Instant::Now();
+    auto near = [now](ActionRequest const& action) { return IsForcedBefore(action, now + kNearDeadline); };
+    auto overdue = [now](ActionRequest const& action) { return IsForcedBefore(action, now); };
+    if (std::none_of(actions.begin(), actions.end(), near)) return;
+    for (auto const& action : actions)
+        if (overdue(action)) SendToClient(ClientWriter(), ActionTaken{.id = action.id});
+    actions.EraseIf(overdue);
+    UpdateActionRequestDialog();
 }
 
 void HandleTick() {
@@ -61,5 +57,7 @@ void HandleTick() {
 
 void ServiceTimerTick() {
     HandleTick();
+    // Here, since the dialog is enabled in many places: when it is built, when quiet mode or a preview ends.
+    if (m_askedAbout) DisableActionRequestDialog();
     RefreshActionRequestDialog();
 }

@@ -1,6 +1,5 @@
 #include "core/ui_commands.h"
 
-#include <optional>
 #include <utility>
 
 #include "core/process/client_writer.h"
@@ -9,24 +8,8 @@
 #include "dialogs/action_details_dialog.h"
 #include "dialogs/action_request_dialog.h"
 #include "dialogs/confirmation_dialog.h"
-#include "foundation/base/never_destroyed.h"
 
 namespace {
-
-// Who has put a question: a take, the take-all in progress, or one before that.
-enum class Asker { Take, TakeAll, FormerTakeAll };
-
-struct Question {
-    ActionRequest action;  // As it was when it was asked about.
-    Asker asker;
-};
-
-// Waits for its answer: from when it is put until the answer is carried out, which is in a later tick than the press.
-// Meanwhile no other is put, or the answer might count for one that nobody has read.
-std::optional<Question>& question = NeverDestroyed<std::optional<Question>>();
-
-// While a take-all is in progress, it comes next to the action at the pending list's cursor.
-bool take_all_in_progress = false;
 
 void SendActionTaken(ActionRequest const& action, bool cancel) {
     SendToClient(ClientWriter(), ActionTaken{.is_cancel = cancel, .is_offer = false, .id = action.id});
@@ -45,92 +28,63 @@ void TakeAllActions() {
     EnableActionRequestDialog();
 }
 
-// Asks about the first action of this ID.
-void Ask(unsigned long long id, Asker asker) {
-    question = {*actions.FindAction(id), asker};
-    ShowConfirmationRequestDialog(id);
+// Returns whether it has put the action's question.
+bool RequestConfirmationIfNeeded(std::size_t position) {
+    auto const& action = actions[position];
+    if (!action.pre_action_message) return false;
+    m_askedAbout = action;
+    ShowConfirmationRequestDialog(action.id);
+    return true;
 }
 
-void WalkOnWithTakeAll() {
-    for (; actions.TakeAllCursor() < actions.size(); actions.SetTakeAllCursor(actions.TakeAllCursor() + 1)) {
-        auto const& action = actions[actions.TakeAllCursor()];
-        if (!action.pre_action_message) continue;
-        take_all_in_progress = true;
-        if (question) return;
-        actions.SetTakeAllCursor(actions.TakeAllCursor() + 1);
-        return Ask(action.id, Asker::TakeAll);
-    }
-    take_all_in_progress = false;
+void TakeAllFrom(std::size_t position) {
+    for (; position < actions.size(); ++position)
+        if (RequestConfirmationIfNeeded(position)) return actions.SetTakeAllCursor(position + 1);
     TakeAllActions();
 }
 
-// A question that stands is taken back, and one of a take-all before this counts for nothing: each is put in its turn.
-void TakeAll() {
-    if (IsConfirmationRequestDialogShown()) question.reset();
-    HideConfirmationRequestDialog();
-    if (question && question->asker == Asker::TakeAll) question->asker = Asker::FormerTakeAll;
-    actions.SetTakeAllCursor(0);
-    WalkOnWithTakeAll();
-}
-
 void TakeOne(unsigned long long id) {
-    auto position = actions.Find(id);
+    auto const position = actions.Find(id);
     if (position < actions.size()) {
-        if (actions[position].pre_action_message) {
-            if (!question) Ask(id, Asker::Take);
-            return;
-        }
+        if (RequestConfirmationIfNeeded(position)) return;
         CompleteAction(position, false);
     }
     EnableActionRequestDialog();
 }
 
 void CancelOne(unsigned long long id) {
-    auto position = actions.Find(id);
+    auto const position = actions.Find(id);
     if (position < actions.size()) CompleteAction(position, true);
     EnableActionRequestDialog();
 }
 
-// Whether the answer counts for this action by itself: not when it says something else than the one that the user was
-// asked about, which the client has withdrawn meanwhile.
-bool IsAnswered(ActionRequest const& action, std::optional<Question> const& answered) {
-    return !answered || (answered->asker == Asker::Take && answered->action.title == action.title &&
-                         answered->action.pre_action_message == action.pre_action_message);
+bool SaysTheSame(ActionRequest const& one, ActionRequest const& other) {
+    return one.title == other.title && one.pre_action_message == other.pre_action_message;
 }
 
-// An action that has come in place of the one asked about is put to the user in its turn, or left to another decision.
-void AcceptOne(unsigned long long id, std::optional<Question> const& answered) {
-    auto position = actions.Find(id);
+void AcceptOne(ActionRequest const& asked) {
+    auto const position = actions.Find(asked.id);
     if (position < actions.size()) {
-        if (IsAnswered(actions[position], answered))
+        if (SaysTheSame(actions[position], asked))
             CompleteAction(position, false);
-        else if (actions[position].pre_action_message)
-            return Ask(id, Asker::Take);
+        else if (RequestConfirmationIfNeeded(position))
+            return;
     }
     EnableActionRequestDialog();
 }
 
-// An answer to a take that was asked for beside the take-all counts by itself.
-void AcceptDuringTakeAll(unsigned long long id, std::optional<Question> const& answered) {
-    if (answered && answered->asker == Asker::Take) {
-        auto position = actions.Find(id);
-        if (position < actions.size() && IsAnswered(actions[position], answered)) CompleteAction(position, false);
-    }
-    WalkOnWithTakeAll();
-}
-
-void AcceptConfirmation(unsigned long long id) {
-    auto const answered = std::exchange(question, std::nullopt);
-    if (take_all_in_progress)
-        AcceptDuringTakeAll(id, answered);
-    else
-        AcceptOne(id, answered);
+// Without a question nothing is taken: nobody has read one.
+void AcceptConfirmation() {
+    auto const asked = std::exchange(m_askedAbout, std::nullopt);
+    if (!asked) return EnableActionRequestDialog();
+    if (auto const cursor = actions.TakeAllCursor()) return TakeAllFrom(*cursor);
+    AcceptOne(*asked);
 }
 
 // Abandons the whole take-all, what was already confirmed included: that is meant.
 void DeclineConfirmation() {
-    question.reset();
-    take_all_in_progress = false;
+    m_askedAbout.reset();
+    actions.SetTakeAllCursor({});
     EnableActionRequestDialog();
 }
 
@@ -139,25 +93,28 @@ void PostponeUntil(Instant time) {
     SendToClient(ClientWriter(), RemindTime{TimeObject(time, TimeZone())});
 }
 
-// The dialog stays hidden: the button has hidden it. Over an empty list that button closes: an action that came after
-// it was pressed is not put off.
+// The dialog stays hidden: the button has hidden it.
 void Snooze(UICommand const& command) {
-    if (actions.empty() || command.NothingWasPending()) return;
-    auto interval = TimeInterval::Minutes(command.Minutes());
+    if (actions.empty()) return;
+    auto const interval = TimeInterval::Minutes(command.Minutes());
     Instant const deadline = Instant(0) + TimeInterval::Seconds(command.DeadlineSeconds());
     PostponeUntil((command.Minutes() > 0 ? Instant::Now() : deadline) + interval);
     m_remindInterval = interval;
     SendToClient(ClientWriter(), RemindInterval{interval});
 }
 
+bool DecidesAboutActions(UICommandType type) {
+    return type == UICommandType::TakeAll || type == UICommandType::Take || type == UICommandType::Cancel ||
+           type == UICommandType::Snooze;
+}
+
 void HandleCommand(UICommand const& command) {
+    if (m_askedAbout && DecidesAboutActions(command.Type())) return;
     switch (command.Type()) {
         case UICommandType::TakeAll:
-            return TakeAll();
+            return TakeAllFrom(0);
         case UICommandType::ShowDetails:
             return ShowActionDetailsDialog(command.ActionID());
-        case UICommandType::DetailsClosed:
-            return EnableActionRequestDialog();
         case UICommandType::Cancel:
             return CancelOne(command.ActionID());
         case UICommandType::Take:
@@ -165,9 +122,10 @@ void HandleCommand(UICommand const& command) {
         case UICommandType::Snooze:
             return Snooze(command);
         case UICommandType::ConfirmationAccepted:
-            return AcceptConfirmation(command.ActionID());
+            return AcceptConfirmation();
         case UICommandType::ConfirmationDeclined:
             return DeclineConfirmation();
+        case UICommandType::DetailsClosed:
         case UICommandType::QuietNoticeClosed:
             return EnableActionRequestDialog();
         case UICommandType::Show:
@@ -181,7 +139,7 @@ void ProcessMessagesFromUI() {
     FiFoQueue<std::unique_ptr<UICommand>> commands;
     uiCommandQ.ReadMessages(commands);
     while (!commands.IsEmpty()) {
-        auto command = commands.TakeFront();
+        auto const command = commands.TakeFront();
         try {
             HandleCommand(*command);
         } catch (...) {

@@ -44,9 +44,8 @@ AutoNullTerminated<char> SummaryOfAll(PendingActions const& pending) {
 }
 
 AutoNullTerminated<char> DescriptionOf(ActionRequest const& action) {
-    auto summary = ActionSummary(action);
-    auto format = FormatPlusArguments<1>(UFormat("{actionDescription}\n\n{actionSummary}"), action.short_description);
-    return MakePlatformString(FormatPlusArguments<2>(format, summary));
+    return MakePlatformString(
+        UFormat("{actionDescription}\n\n{actionSummary}").With(action.short_description, ActionSummary(action)));
 }
 
 void DescribeAll(ActionRequestContents& contents, PendingActions const& pending) {
@@ -57,7 +56,7 @@ void DescribeAll(ActionRequestContents& contents, PendingActions const& pending)
 }
 
 void DescribeOne(ActionRequestContents& contents, ActionRequest const& action) {
-    contents.title = OneLine(MakePlatformString(FormatPlusArguments<1>(UFormat("{actionTitle}"), action.title)));
+    contents.title = OneLine(MakePlatformString(UFormat("{actionTitle}").With(action.title)));
     contents.take_label = ControlLiteral("Take Action");
     contents.cancel_label = ControlLiteral("Cancel Action");
     contents.description = DescriptionOf(action);
@@ -119,6 +118,5 @@ AutoNullTerminated<char> MakeCountLine(std::size_t count, bool selected) {
     if (selected) return ControlLiteral("1 action selected");
     if (count == 0) return ControlLiteral("There are no pending actions.");
     if (count == 1) return ControlLiteral("There is 1 pending action.");
-    auto number = UnixPlatform::FormattedNumber(count);
-    return MakePlatformString(FormatPlusArguments<1>(UFormat("There are {x} pending actions."), number));
+    return MakePlatformString(UFormat("There are {x} pending actions.").With(UnixPlatform::FormattedNumber(count)));
 }

@@ -46,13 +46,13 @@ void DecideAboutSelected(UICommandType decision) {
 }
 
 // Hides without disabling: the dialog comes back enabled. "Close", over an empty list, snoozes as well when a choice is
-// selected, and the command then puts nothing off: meant.
+// selected, and puts off what has come by the time it is carried out: meant.
 void SnoozePressed() {
     if (dialog.selected_choice >= 0) {
         int const minutes = dialog.choices[static_cast<std::size_t>(dialog.selected_choice)].minutes;
         HideActionRequestDialog();
-        QueueCommand(UICommandType::Snooze, 0, minutes, dialog.earliest_deadline.Microseconds() / TimeInterval::kSecond,
-                     actions.empty());
+        QueueCommand(UICommandType::Snooze, 0, minutes,
+                     dialog.earliest_deadline.Microseconds() / TimeInterval::kSecond);
     }
     if (actions.empty()) HideActionRequestDialog();
 }

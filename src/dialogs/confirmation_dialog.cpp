@@ -28,7 +28,8 @@ struct Texts {
 
 Texts TextsFor(unsigned long long id) {
     Texts texts;
-    ActionRequest const* action = actions.FindAction(id);
+    // The very entry that is asked about: another of its ID may stand before it.
+    ActionRequest const* action = m_askedAbout ? &*m_askedAbout : actions.FindAction(id);
     if (action) texts.action_title = OneLine(MakeLocalString<UTF8>(action->title));
     if (action && action->pre_action_message)
         texts.confirmation = MakeLocalString<UTF8>(action->pre_action_message->Ref());
@@ -78,10 +79,6 @@ void Build(unsigned long long id) {
 void ShowConfirmationRequestDialog(unsigned long long id) {
     window.Build([id] { Build(id); });
     UpdateConfirmationRequestDialog();
-}
-
-bool IsConfirmationRequestDialogShown() {
-    return window.IsOpen();
 }
 
 void UpdateConfirmationRequestDialog() {}

@@ -49,6 +49,7 @@ class DialogsTest : public testing::Test {
     void SetUp() override { OpenDialogDisplay(); }
     void TearDown() override {
         actions.Clear();
+        m_askedAbout.reset();
         HideActionRequestDialog();
         HideConfirmationRequestDialog();
         RemoveQuietModeDialog();
@@ -252,6 +253,8 @@ TEST_F(DialogsTest, TheProposedChoiceIsHighlightedAndInView) {
 
 TEST_F(DialogsTest, AConfirmationIsAnsweredOnceAndIsNeverNarrowerThanItsExplanation) {
     Pend(2, [](ActionRequest& action) { action.pre_action_message = SharedUString<UTF8>(UStringRef<UTF8>("Sure?")); });
+    m_askedAbout = actions[1];
+    m_askedAbout->SetTitle("Another of its ID");
     for (auto [button, answer] : {std::pair("form.ok", UICommandType::ConfirmationAccepted),
                                   {"form.cancel", UICommandType::ConfirmationDeclined}}) {
         ShowConfirmationRequestDialog(1);
@@ -259,7 +262,7 @@ TEST_F(DialogsTest, AConfirmationIsAnsweredOnceAndIsNeverNarrowerThanItsExplanat
         auto const shells = Shells("ConfirmationDialog");
         ASSERT_EQ(shells.size(), 1u);
         EXPECT_GE(WidthOf(Find(shells[0], "form.actionconfirmation")), WidthOf(Find(shells[0], "form.staticlabel")));
-        EXPECT_EQ(Text(Find(shells[0], "form.actiontitle"), XtNlabel), "Action 1");
+        EXPECT_EQ(Text(Find(shells[0], "form.actiontitle"), XtNlabel), "Another of its ID");
         Press(Find(shells[0], button));
         EXPECT_EQ(Commands(), (std::vector{std::pair(answer, 1ULL)}));
         EXPECT_TRUE(Shells("ConfirmationDialog").empty());

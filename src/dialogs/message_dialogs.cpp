@@ -36,8 +36,7 @@ AutoNullTerminated<char> MessageDialog::Title() const {
 
 AutoNullTerminated<char> MessageDialog::Message() const {
     if (!request.is_completion_message) return MakeLocalString<UTF8>(request.message);
-    return MakePlatformString(
-        FormatPlusArguments<1>(UFormat("Action \"{actionTitle}\" has completed."), request.title));
+    return MakePlatformString(UFormat("Action \"{actionTitle}\" has completed.").With(request.title));
 }
 
 template <class Matches>

@@ -1,5 +1,6 @@
 #include "localisation/action_summary.h"
 
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -9,116 +10,90 @@
 
 namespace {
 
+enum class Family { One, Selected, Pending };
 enum class After { Nothing, Restart, Shutdown };
-enum class DeadlineSentence { None, Within, Now, Automatic };
+enum class Due { Never, Within, Now, Automatically };
 
-// Meant: for one action a restart hides a shutdown, for a set a shutdown hides a restart.
-After AfterActions(ActionFamily family, SummaryFacts const& facts) {
-    bool const restart_first = family == ActionFamily::One;
-    if (facts.restart && (restart_first || !facts.shutdown)) return After::Restart;
+// What there is to tell of one action or of several.
+struct Facts {
+    bool save = false;
+    bool restart = false;
+    bool shutdown = false;
+    std::optional<Instant> deadline;  // the earliest
+    bool forced = false;              // the action that has it runs by itself then
+};
+
+void Add(ActionRequest const& action, Facts& facts) {
+    facts.save |= action.request_save;
+    facts.restart |= action.restart;
+    facts.shutdown |= action.shutdown;
+    auto const deadline = action.Deadline();
+    if (!deadline || (facts.deadline && *deadline >= *facts.deadline)) return;
+    facts.deadline = *deadline;
+    facts.forced = action.force_run;
+}
+
+// Meant: for one action a restart hides a shutdown, for several a shutdown hides a restart.
+After AfterActions(Family family, Facts const& facts) {
+    if (facts.restart && (family == Family::One || !facts.shutdown)) return After::Restart;
     return facts.shutdown ? After::Shutdown : After::Nothing;
 }
 
-DeadlineSentence SentenceOf(SummaryFacts const& facts) {
-    if (!facts.has_deadline) return DeadlineSentence::None;
-    if (facts.forced) return DeadlineSentence::Automatic;
-    return facts.soon ? DeadlineSentence::Now : DeadlineSentence::Within;
+Due DueAt(Facts const& facts, Instant now) {
+    if (!facts.deadline) return Due::Never;
+    if (facts.forced) return Due::Automatically;
+    return *facts.deadline < now + kNearDeadline ? Due::Now : Due::Within;
 }
 
-// The first of the two rows, without and with work to save.
-int RowPair(After after, DeadlineSentence sentence) {
-    int const action = static_cast<int>(after);
-    switch (sentence) {
-        case DeadlineSentence::None:
-            return 4 * action;
-        case DeadlineSentence::Within:
-            return 4 * action + 2;
-        case DeadlineSentence::Now:
-            return 12 + 2 * action;
-        case DeadlineSentence::Automatic:
-            return 18 + 2 * action;
-    }
-    return 0;
-}
-
-}  // namespace
-
-int SummaryRow(ActionFamily family, SummaryFacts const& facts) {
+std::size_t RowOf(Family family, Facts const& facts, Instant now) {
+    // By After and Due, without work to save; the row with it follows.
+    static constexpr std::size_t kRows[3][4] = {{0, 2, 12, 18}, {4, 6, 14, 20}, {8, 10, 16, 22}};
     auto after = AfterActions(family, facts);
-    auto const sentence = SentenceOf(facts);
+    auto const due = DueAt(facts, now);
     // Meant: with a deadline to meet, the summary of all pending actions leaves the restart out.
-    if (family == ActionFamily::Pending && after == After::Restart && sentence == DeadlineSentence::Within)
-        after = After::Nothing;
-    return RowPair(after, sentence) + (facts.save ? 1 : 0);
+    if (family == Family::Pending && after == After::Restart && due == Due::Within) after = After::Nothing;
+    return kRows[static_cast<int>(after)][static_cast<int>(due)] + (facts.save ? 1 : 0);
 }
-
-namespace {
 
 struct Sentence {
     FormatPlusArguments<0> format;
     bool has_deadline_text;
 };
-using Family = std::vector<Sentence>;
 
-Family MakeFamily(ActionSentences const& sentences) {
-    Family family;
+std::vector<Sentence> Translated(ActionSentences const& sentences) {
+    std::vector<Sentence> translated;
     for (std::string_view english : sentences)
-        family.push_back({UFormat(english.data()), english.find("{DeadlineText}") != english.npos});
-    return family;
+        translated.push_back({UFormat(english.data()), english.find("{DeadlineText}") != english.npos});
+    return translated;
 }
 
-Family const& SentencesOf(ActionFamily family) {
-    switch (family) {
-        case ActionFamily::One: {
-            static Family const one = MakeFamily(kOneActionSentences);
-            return one;
-        }
-        case ActionFamily::Selected: {
-            static Family const selected = MakeFamily(kSelectedActionsSentences);
-            return selected;
-        }
-        case ActionFamily::Pending:
-            break;
-    }
-    static Family const pending = MakeFamily(kPendingActionsSentences);
-    return pending;
+std::vector<Sentence> const& SentencesOf(Family family) {
+    static ActionSentences const* const english[] = {&kOneActionSentences, &kSelectedActionsSentences,
+                                                     &kPendingActionsSentences};
+    static std::vector<Sentence> translated[3];
+    auto const index = static_cast<std::size_t>(family);
+    if (translated[index].empty()) translated[index] = Translated(*english[index]);
+    return translated[index];
 }
 
-AutoUString<UTF8> Render(ActionFamily family, SummaryFacts facts, Instant deadline) {
-    Instant const now = Instant::Now();
-    facts.soon = facts.has_deadline && deadline < now + kNearDeadline;
-    auto const& sentence = SentencesOf(family)[static_cast<std::size_t>(SummaryRow(family, facts))];
+AutoUString<UTF8> Summary(Family family, Facts const& facts) {
+    auto const now = Instant::Now();
+    auto const& sentence = SentencesOf(family)[RowOf(family, facts, now)];
     if (!sentence.has_deadline_text) return MakeUString(sentence.format);
-    auto text = FormattedDeadline(deadline, now, facts.forced, false);
-    return MakeUString(FormatPlusArguments<1>(sentence.format, text));
+    return MakeUString(sentence.format.With(FormattedDeadline(*facts.deadline, now, facts.forced, false)));
 }
 
 }  // namespace
 
 AutoUString<UTF8> ActionSummary(ActionRequest const& action) {
-    auto const deadline = action.Deadline();
-    SummaryFacts facts{.save = action.request_save,
-                       .restart = action.restart,
-                       .shutdown = action.shutdown,
-                       .has_deadline = !deadline.IsNull(),
-                       .forced = action.force_run};
-    return Render(ActionFamily::One, facts, deadline ? *deadline : Instant());
+    Facts facts;
+    Add(action, facts);
+    return Summary(Family::One, facts);
 }
 
 AutoUString<UTF8> ActionSummary(std::set<unsigned long long> const& ids, ActionRequestStore const& store,
                                 bool pending) {
-    SummaryFacts facts;
-    Instant earliest{INT64_MAX};
-    for (auto id : ids) {
-        ActionRequest const& action = store.GetAction(id);
-        facts.save |= action.request_save;
-        facts.restart |= action.restart;
-        facts.shutdown |= action.shutdown;
-        auto const deadline = action.Deadline();
-        if (!deadline || (facts.has_deadline && *deadline >= earliest)) continue;
-        facts.has_deadline = true;
-        facts.forced = action.force_run;
-        earliest = *deadline;
-    }
-    return Render(pending ? ActionFamily::Pending : ActionFamily::Selected, facts, earliest);
+    Facts facts;
+    for (auto id : ids) Add(store.GetAction(id), facts);
+    return Summary(pending ? Family::Pending : Family::Selected, facts);
 }

@@ -5,28 +5,11 @@
 #include "dialogs/action_request_store.h"
 #include "foundation/text/auto_ustring.h"
 
-// Which sentence describes an action or a set of actions.
-
-enum class ActionFamily { One, Selected, Pending };
-
-// The facts that decide.
-struct SummaryFacts {
-    bool save = false;
-    bool restart = false;
-    bool shutdown = false;
-    bool has_deadline = false;
-    bool soon = false;    // The deadline is less than five minutes away, or past.
-    bool forced = false;  // The action runs by itself when its deadline has passed.
-};
-
-// The row of the family's sentences (action_sentences.h), 0 to 23.
-int SummaryRow(ActionFamily family, SummaryFacts const& facts);
-
 // The paragraph that tells what taking actions involves: work to save, a restart or shutdown, and how the deadline
 // stands. Empty when there is nothing to tell. Main thread only; throws what the formatter throws.
 //
-// The translations of the sentences are looked up once a family, when the first summary of it is made, and kept: the
-// translation files must be loaded before.
+// The translations of the sentences are looked up once a family (action_sentences.h), when the first summary of it is
+// made, and kept: the translation files must be loaded before.
 
 AutoUString<UTF8> ActionSummary(ActionRequest const& action);
 

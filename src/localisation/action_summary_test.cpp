@@ -3,78 +3,70 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <utility>
 
 #include "localisation/action_sentences.h"
 #include "localisation/deadline_text.h"
 
 namespace {
 
-// What a family says in its own way.
-struct Wording {
-    ActionSentences const& sentences;
-    std::string actions, they, the_actions, complete, must_take, run;
-};
-Wording const kWordings[] = {
-    {kOneActionSentences, "this action", "it", "This action", "", "You must take this action", "This action"},
-    {kSelectedActionsSentences, "the selected actions", "they", "The selected actions", " when they are complete",
-     "There is at least one selected action you must take", "At least one of the selected actions"},
-    {kPendingActionsSentences, "these actions", "they", "The pending actions", " when they are complete",
-     "There is at least one action you must take", "At least one of these actions"}};
-
-// The sentence that the facts call for, put together from its parts: what the tables hold whole.
-std::string Expected(ActionFamily family, Wording const& words, SummaryFacts const& facts) {
-    bool const within = facts.has_deadline && !facts.forced && !facts.soon;
-    std::string after = facts.restart ? "restart" : "";
-    if (facts.shutdown && (family != ActionFamily::One || !facts.restart)) after = "shutdown";
-    if (family == ActionFamily::Pending && after == "restart" && within) after = "";
-
-    std::string text = facts.save ? "You should save your work before taking " + words.actions : words.the_actions;
-    if (!after.empty())
-        text += (facts.save ? ", as " + words.they : "") + " will require a system " + after + words.complete;
-    text += facts.has_deadline ? ".  " : ".";
-    if (!facts.save && after.empty()) text = "";
-    if (!facts.has_deadline) return text;
-    if (facts.forced) return text + words.run + " will run automatically in {DeadlineText}.";
-    return text + words.must_take + (facts.soon ? " now." : " within {DeadlineText}.");
-}
-
-TEST(ActionSummaryTest, EveryCombinationOfFactsYieldsItsSentence) {
-    for (auto family : {ActionFamily::One, ActionFamily::Selected, ActionFamily::Pending})
-        for (unsigned bits = 0; bits < 64; ++bits) {
-            auto const& words = kWordings[static_cast<int>(family)];
-            SummaryFacts const facts{(bits & 1) != 0, (bits & 2) != 0,  (bits & 4) != 0,
-                                     (bits & 8) != 0, (bits & 16) != 0, (bits & 32) != 0};
-            auto const row = static_cast<std::size_t>(SummaryRow(family, facts));
-            EXPECT_EQ(words.sentences[row], Expected(family, words, facts)) << bits;
-        }
-}
-
-ActionRequest Due(unsigned long long id, long long secondsFromNow, bool forced) {
+ActionRequest Due(unsigned long long id, long long seconds_from_now, bool forced) {
     ActionRequest action;
     action.id = id;
-    action.deadline = TimeObject(Instant::Now() + TimeInterval::Seconds(secondsFromNow), TimeZone());
+    action.deadline = TimeObject(Instant::Now() + TimeInterval::Seconds(seconds_from_now), TimeZone());
     action.force_run = forced;
     return action;
 }
 
+// The three summaries that the action alone has: by itself, as a selection, as the pending list.
+std::string Summary(ActionRequest const& action, int family) {
+    ActionRequestStore store;
+    store.UpdateActions({&action, 1});
+    auto const text = family == 0 ? ActionSummary(action) : ActionSummary({action.id}, store, family == 2);
+    return std::string(text.AsStringView());
+}
+
+// Which rows of each family are meant without work to save; with it, it is the row behind each. The columns: without a
+// deadline, with one two hours away, with one two minutes away, with a forced one.
+struct Rows {
+    bool restart, shutdown;
+    int of[3][4];
+};
+constexpr Rows kRows[] = {{false, false, {{0, 2, 12, 18}, {0, 2, 12, 18}, {0, 2, 12, 18}}},
+                          {true, false, {{4, 6, 14, 20}, {4, 6, 14, 20}, {4, 2, 14, 20}}},
+                          {false, true, {{8, 10, 16, 22}, {8, 10, 16, 22}, {8, 10, 16, 22}}},
+                          {true, true, {{4, 6, 14, 20}, {8, 10, 16, 22}, {8, 10, 16, 22}}}};
+ActionSentences const* const families[] = {&kOneActionSentences, &kSelectedActionsSentences, &kPendingActionsSentences};
+
+TEST(ActionSummaryTest, TheFlagsAndTheDeadlineChooseTheSentence) {
+    ActionRequest const due[] = {{}, Due(0, 7260, false), Due(0, 120, false), Due(0, 7260, true)};
+    for (Rows const& rows : kRows)
+        for (int i = 0; i < 24; ++i) {
+            int const family = i / 8, when = i / 2 % 4, save = i % 2;
+            ActionRequest action = due[when];
+            action.request_save = save == 1;
+            action.restart = rows.restart;
+            action.shutdown = rows.shutdown;
+            std::string sentence = (*families[family])[static_cast<std::size_t>(rows.of[family][when] + save)];
+            if (auto at = sentence.find("{DeadlineText}"); at != sentence.npos) sentence.replace(at, 14, "2 hours");
+            EXPECT_EQ(Summary(action, family), sentence) << family << when;
+        }
+}
+
 TEST(ActionSummaryTest, OfASetTheEarliestDeadlineDecidesAndTheLowestIDAmongEquals) {
-    ActionRequest all[] = {Due(1, 7200 + 60, true), Due(2, 3600 + 60, false), Due(3, 0, true), Due(4, 0, true),
-                           Due(5, 0, true)};
+    ActionRequest all[] = {Due(1, 7200 + 60, true), Due(2, 3600 + 60, false), Due(3, 0, true)};
     all[2].deadline = all[1].deadline;
-    all[3].deadline = all[4].deadline = {};
-    all[3].request_save = true;
+    all[1].request_save = true;
     ActionRequestStore store;
     store.UpdateActions(all);
-    auto summary = [&](std::set<unsigned long long> ids, bool pending) {
-        return std::string(ActionSummary(ids, store, pending).AsStringView());
+    auto summary = [&](std::set<unsigned long long> ids) {
+        return std::string(ActionSummary(ids, store, true).AsStringView());
     };
-    EXPECT_EQ(summary({1, 2, 3}, true), "There is at least one action you must take within 1 hour.");
-    EXPECT_EQ(summary({1, 3}, true), "At least one of these actions will run automatically in 1 hour.");
-    EXPECT_EQ(summary({4, 5}, false), "You should save your work before taking the selected actions.");
-    EXPECT_EQ(summary({}, true), "");
-    EXPECT_THROW(summary({6}, true), NoSuchActionRequestID);
-    EXPECT_EQ(ActionSummary(all[0]).AsStringView(), "This action will run automatically in 2 hours.");
+    EXPECT_EQ(summary({1, 2, 3}),
+              "You should save your work before taking these actions.  There is at least one action you must take "
+              "within 1 hour.");
+    EXPECT_EQ(summary({1, 3}), "At least one of these actions will run automatically in 1 hour.");
+    EXPECT_EQ(summary({}), "");
+    EXPECT_THROW(summary({6}), NoSuchActionRequestID);
 }
 
 TEST(ActionRequestStoreTest, UpdatesOverwriteAndRaiseNearForcedDeadlines) {

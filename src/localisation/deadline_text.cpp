@@ -12,11 +12,14 @@ Text Fixed(char const* english) {
     return MakeUString(UFormat(english));
 }
 
+Text Number(long long count) {
+    return FormattedNumber(static_cast<unsigned long long>(count));
+}
+
 // `one` for a count of 1, `many`, whose one variable is the count, for any other.
 Text Counted(long long count, char const* one, char const* many) {
     if (count == 1 && one) return Fixed(one);
-    auto number = FormattedNumber(static_cast<unsigned long long>(count));
-    return MakeUString(FormatPlusArguments<1>(UFormat(many), number));
+    return MakeUString(UFormat(many).With(Number(count)));
 }
 
 long long RoundedHalfDown(long long value, long long unit) {
@@ -27,10 +30,7 @@ Text MinutesAndSeconds(long long minutes, long long seconds) {
     if (minutes == 0) return Counted(seconds, "1 second", "{seconds} seconds");
     if (minutes == 1) return Counted(seconds, "1 minute, 1 second", "1 minute, {seconds} seconds");
     if (seconds == 1) return Counted(minutes, nullptr, "{minutes} minutes, 1 second");
-    auto minutes_text = FormattedNumber(static_cast<unsigned long long>(minutes));
-    auto seconds_text = FormattedNumber(static_cast<unsigned long long>(seconds));
-    auto format = FormatPlusArguments<1>(UFormat("{minutes} minutes, {seconds} seconds"), minutes_text);
-    return MakeUString(FormatPlusArguments<2>(format, seconds_text));
+    return MakeUString(UFormat("{minutes} minutes, {seconds} seconds").With(Number(minutes), Number(seconds)));
 }
 
 Text PhraseFor(long long remaining) {
@@ -59,7 +59,7 @@ Text FormattedDeadline(TimeInterval const& remaining, bool exact, bool relative)
     if (left < 0) return PastPhrase(exact, relative);
     if (left <= kNearDeadline.Microseconds() && !exact) return Fixed("Now");
     auto phrase = PhraseFor(left);
-    return relative ? MakeUString(FormatPlusArguments<1>(UFormat("{time} from now"), phrase)) : std::move(phrase);
+    return relative ? MakeUString(UFormat("{time} from now").With(phrase)) : std::move(phrase);
 }
 
 Text FormattedNumber(unsigned long long value) {

@@ -5,9 +5,13 @@
 
 // The time left until a deadline as a short phrase, translated: "3 hours", "Overdue".
 //
-// Days and hours are rounded, half of one down; minutes are cut off. The last five minutes are "Now", or, where `exact` is
-// set, minutes and seconds. A deadline that is past is "Overdue", or, where `exact` is set, "0 seconds". Where `relative`
-// is set the phrase says "from now", and an exact past deadline is "Running...". Throws what the formatter throws.
+// Days and hours are rounded, half of one down; minutes are cut off. Where `relative` is set, "from now" follows. The last
+// five minutes and what is past have phrases of their own, the latter and "Now" without "from now":
+//
+//   exact                  minutes and seconds; past "0 seconds", or "Running..." where `relative` is set
+//   not exact              "Now"; past "Overdue"
+//
+// Throws what the formatter throws. Main thread only.
 AutoUString<UTF8> FormattedDeadline(Instant const& deadline, Instant const& now, bool exact, bool relative);
 AutoUString<UTF8> FormattedDeadline(TimeInterval const& remaining, bool exact, bool relative);
 

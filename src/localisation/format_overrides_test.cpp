@@ -40,4 +40,25 @@ TEST(FormatOverrideContextTest, TheScopeAddedLastAnswersFirst) {
     EXPECT_EQ(InContext(context, "a") + InContext(context, "b"), "default2");
 }
 
+TEST(ListTest, AWalkGoesOnWhereverNodesComeAndGo) {
+    struct Node : ListNode {};
+    List list;
+    Node nodes[3];
+    for (auto& node : nodes) list.PushFront(node);
+    auto removed = std::make_unique<Node>();
+    list.PushFront(*removed);
+    ListIterator walk(list), slower(list);
+    EXPECT_EQ(slower.Next(), removed.get());
+    removed.reset();
+    EXPECT_EQ(walk.Next(), &nodes[2]);
+    list.Remove(nodes[1]);
+    EXPECT_EQ(walk.Next(), &nodes[0]);
+    list.Remove(nodes[0]);
+    list.PushFront(nodes[1]);
+    EXPECT_EQ(walk.Next(), nullptr);
+    EXPECT_EQ(slower.Next(), &nodes[2]);
+    EXPECT_EQ(slower.Next(), nullptr);
+    EXPECT_EQ(ListIterator(list).Next(), &nodes[1]);
+}
+
 }  // namespace

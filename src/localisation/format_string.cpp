@@ -5,6 +5,17 @@
 #include "foundation/text/ascii.h"
 #include "foundation/text/ustring_builder.h"
 
+namespace {
+
+ConstArrayOf<FormatBinding> ReservedVariables() {
+    static FormatBinding const sorted[] = {
+        {"_cbrace", "}"}, {"_cr", "\r"}, {"_crlf", "\r\n"}, {"_lf", "\n"}, {"_obrace", "{"}, {"_tab", "\t"},
+    };
+    return sorted;
+}
+
+}  // namespace
+
 UFormatIterator::UFormatIterator(UStringRef<UTF8> format) : next_(format.begin()), end_(format.end()) {
     GetNextSegment();
 }
@@ -24,17 +35,6 @@ void UFormatIterator::GetNextSegment() {
     segment_ = {variable, {begin, stop}};
     next_ = variable ? stop + 1 : stop;
 }
-
-namespace {
-
-ConstArrayOf<FormatBinding> ReservedVariables() {
-    static FormatBinding const sorted[] = {
-        {"_cbrace", "}"}, {"_cr", "\r"}, {"_crlf", "\r\n"}, {"_lf", "\n"}, {"_obrace", "{"}, {"_tab", "\t"},
-    };
-    return sorted;
-}
-
-}  // namespace
 
 bool IsFormatVariableNameReserved(UStringRef<UTF8> name) {
     return !name.empty() && name[0] == '_';

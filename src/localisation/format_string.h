@@ -63,22 +63,19 @@ class UFormatIterator {
     UFormatSegment segment_;
 };
 
-// What the variables of a format string stand for: values by name, sorted by name, then by value, so that a name is
-// found by a binary search. Views throughout: the names lie in the key, the values with the caller.
+// A variable's name and its value. Views: the name lies in the key, the value with the caller.
 //
-// A name that begins with "_" is reserved. These exist and need no argument:
-//
-//   _cbrace  }      _obrace  {      _cr  carriage return      _lf  line feed      _crlf  both      _tab  tab
-
-// A variable's name and its value.
+// Bindings are sorted by name, then by value, so that a name is found by a binary search.
 using FormatBinding = std::pair<UStringRef<UTF8>, UStringRef<UTF8>>;
 
-// Whether the name begins with "_".
+// Whether the name begins with "_". These exist and need no argument:
+//
+//   _cbrace  }      _obrace  {      _cr  carriage return      _lf  line feed      _crlf  both      _tab  tab
 bool IsFormatVariableNameReserved(UStringRef<UTF8> name);
 
 // Accepts the name of a variable in a key: a reserved name that exists (else throws UndefinedFormatVariable), or any
 // that has only ASCII letters, digits and underscores after its first byte (else, and when it is empty, throws
-// ImproperFormatVariableName). The first byte may be anything: meant, keys in use have such names.
+// ImproperFormatVariableName). Meant: the first byte may be anything.
 void CheckFormatVariableName(UStringRef<UTF8> name);
 
 // Pairs the key's variables, the reserved ones left out, with the arguments in their order, and sorts the pairs.

@@ -11,7 +11,7 @@ namespace UnixPlatform {
 namespace {
 
 template <class Value>
-AutoUString<UTF8> Written(Value const& value) {
+AutoUString<UTF8> PlainText(Value const& value) {
     unsigned char room[32];
     Buffer text(room);
     text << value;
@@ -19,25 +19,24 @@ AutoUString<UTF8> Written(Value const& value) {
 }
 
 AutoUString<UTF8> NameOf(DayOfWeek day, char const* const (&names)[7]) {
-    auto index = static_cast<std::size_t>(day);
+    auto const index = static_cast<std::size_t>(day);
     return MakeUString(UFormat(index < 7 ? names[index] : "???"));
 }
 
 }  // namespace
 
 AutoUString<UTF8> FormattedTimeOfDay(TimeOfDay const& time) {
-    return Written(time);
+    return PlainText(time);
 }
 
 AutoUString<UTF8> FormattedDateRecord(DateRecord const& date) {
-    return Written(date);
+    return PlainText(date);
 }
 
 AutoUString<UTF8> FormattedLocalTime(Instant const& instant) {
-    TimeObject local(instant, TimeZone::Local());
-    auto date = FormattedDateRecord(local.Date());
-    auto time = FormattedTimeOfDay(local.Time());
-    return MakeUString(FormatPlusArguments(FormatPlusArguments(UFormat("{date} {time}"), date), time));
+    TimeObject const local(instant, TimeZone::Local());
+    return MakeUString(
+        UFormat("{date} {time}").With(FormattedDateRecord(local.Date()), FormattedTimeOfDay(local.Time())));
 }
 
 AutoUString<UTF8> FormattedLongDayOfWeek(DayOfWeek const& day) {

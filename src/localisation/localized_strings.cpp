@@ -4,24 +4,15 @@
 #include "localisation/locale_text.h"
 #include "localisation/uformat.h"
 
-char const* const product_version = PRODUCT_VERSION;
-
 namespace {
-
-namespace Sentence {
-#define SENTENCE(name, english) constexpr char const* name = english;
-LOCALIZED_SENTENCES(SENTENCE)
-#undef SENTENCE
-}  // namespace Sentence
 
 AutoUString<UTF8> LocalTimeOfDay(Instant const& instant) {
     return UnixPlatform::FormattedTimeOfDay(TimeObject(instant, TimeZone::Local()).Time());
 }
 
-AutoNullTerminated<char> BetweenTimes(char const* english, Instant const& start, Instant const& end) {
-    auto startText = LocalTimeOfDay(start);
-    auto endText = LocalTimeOfDay(end);
-    return MakePlatformString(FormatPlusArguments(FormatPlusArguments(UFormat(english), startText), endText));
+// `english` has two variables: the times of day at which something begins and ends.
+AutoNullTerminated<char> Between(char const* english, Instant const& start, Instant const& end) {
+    return MakePlatformString(UFormat(english).With(LocalTimeOfDay(start), LocalTimeOfDay(end)));
 }
 
 }  // namespace
@@ -39,38 +30,32 @@ LOCALIZED_LABELS(LABEL)
 LOCALIZED_TEXTS(TEXT)
 #undef TEXT
 
-AutoNullTerminated<char> LocalizedStrings::AboutCopyright() {
-    return MakePlatformString(FormatPlusArguments(UFormat(Sentence::Copyright), legal_notice_year));
-}
-
 AutoNullTerminated<char> LocalizedStrings::AboutVersion() {
-    return MakePlatformString(FormatPlusArguments(UFormat(Sentence::Version), product_version));
+    return MakePlatformString(UFormat("Corvane Support Center version {version}").With(PRODUCT_VERSION));
 }
 
 AutoNullTerminated<char> LocalizedStrings::EnteringQuietModeExplanation(Instant const& start, Instant const& end) {
-    return BetweenTimes(Sentence::EnteringQuietMode, start, end);
+    return Between(
+        "Your administrator has disabled the Corvane Support Center between {start} and {end}.  The application will "
+        "now close.",
+        start, end);
 }
 
 AutoNullTerminated<char> LocalizedStrings::QuietModeExplanation(Instant const& start, Instant const& end) {
-    return BetweenTimes(Sentence::InQuietMode, start, end);
+    return Between("Your administrator has disabled this feature between {start} and {end}.", start, end);
 }
 
 AutoNullTerminated<char> LocalizedStrings::TrayTip(unsigned int count) {
-    if (count == 0) return MakePlatformString(UFormat(Sentence::NothingPending));
-    if (count == 1) return MakePlatformString(UFormat(Sentence::OnePending));
-    auto number = UnixPlatform::FormattedNumber(count);
-    return MakePlatformString(FormatPlusArguments(UFormat(Sentence::ManyPending), number));
+    if (count == 0) return MakePlatformString(UFormat("Click to open Corvane Support Center"));
+    if (count == 1) return MakePlatformString(UFormat("You have 1 pending action."));
+    return MakePlatformString(UFormat("You have {number} pending actions.").With(UnixPlatform::FormattedNumber(count)));
 }
 
 AutoUString<UTF8> LocalizedStrings::AnnounceOffers(unsigned int count) {
-    if (count == 1) return MakeUString(UFormat(Sentence::OneNewOffer));
-    auto number = UnixPlatform::FormattedNumber(count);
-    return MakeUString(FormatPlusArguments(UFormat(Sentence::ManyNewOffers), number));
+    if (count == 1) return MakeUString(UFormat("You Have 1 New Offer"));
+    return MakeUString(UFormat("You Have {number} New Offers").With(UnixPlatform::FormattedNumber(count)));
 }
 
-ConstArrayOf<char const*> LocalizedStrings::Keys() {
-#define KEY(name, english) english,
-    static constexpr char const* keys[] = {LOCALIZED_LABELS(KEY) LOCALIZED_TEXTS(KEY) LOCALIZED_SENTENCES(KEY)};
-#undef KEY
-    return keys;
+AutoNullTerminated<char> LocalizedStrings::AboutCopyright() {
+    return MakePlatformString(UFormat("Copyright {year} Corvane. All rights reserved.").With("2026"));
 }

@@ -3,8 +3,8 @@
 #include "foundation/text/auto_ustring.h"
 #include "foundation/time/instant.h"
 
-// The English texts of the catalogue, each of them also the key of its translation: translation files in use hold these
-// very bytes, so inconsistent capitals, double blanks and "shutdown" as a verb stay as they are.
+// The English texts of the catalogue that stand alone, each of them also the key of its translation: translation files in
+// use hold these very bytes, so inconsistent capitals, double blanks and "shutdown" as a verb stay as they are.
 //
 // Each table hands its entries to a macro, ENTRY(name, english). "&" marks the mnemonic letter of a menu entry, and
 // "{_tab}" stands before its accelerator.
@@ -71,28 +71,7 @@
     ENTRY(SupportDashboard, "Dashboard") \
     ENTRY(Offers, "Offers")
 
-// Texts with variables, and texts that are chosen by a count.
-#define LOCALIZED_SENTENCES(ENTRY) \
-    ENTRY(Copyright, legal_notice) \
-    ENTRY(Version, "Corvane Support Center version {version}") \
-    ENTRY(EnteringQuietMode, "Your administrator has disabled the Corvane Support Center between {start} and {end}.  The application will now close.") \
-    ENTRY(InQuietMode, "Your administrator has disabled this feature between {start} and {end}.") \
-    ENTRY(NothingPending, "Click to open Corvane Support Center") \
-    ENTRY(OnePending, "You have 1 pending action.") \
-    ENTRY(ManyPending, "You have {number} pending actions.") \
-    ENTRY(OneNewOffer, "You Have 1 New Offer") \
-    ENTRY(ManyNewOffers, "You Have {number} New Offers")
-
 // clang-format on
-
-// The facts about the product that its texts mention, each in this one place.
-
-// The legal notice of the About box, a text with the variable {year}, and the year that belongs in it.
-inline constexpr char const* legal_notice = "Copyright {year} Corvane. All rights reserved.";
-inline constexpr char const* legal_notice_year = "2026";
-
-// Four decimal numbers separated by points, as the build sets them.
-extern char const* const product_version;
 
 // The catalogue of the fixed texts of the user interface, each translated when it is asked for. Labels come in the
 // locale's encoding, texts that are combined further in UTF-8.
@@ -107,8 +86,9 @@ class LocalizedStrings {
     LOCALIZED_TEXTS(LOCALIZED_ACCESSOR)
 #undef LOCALIZED_ACCESSOR
 
-    static AutoNullTerminated<char> AboutCopyright();
+    // The product's version, four decimal numbers separated by points, and its legal notice with the year.
     static AutoNullTerminated<char> AboutVersion();
+    static AutoNullTerminated<char> AboutCopyright();
 
     // Between which times of day, in the local zone, the user interface is closed. The dates are not shown.
     static AutoNullTerminated<char> EnteringQuietModeExplanation(Instant const& start, Instant const& end);
@@ -118,7 +98,4 @@ class LocalizedStrings {
     static AutoNullTerminated<char> TrayTip(unsigned int count);
     // How many offers are new, with a text of its own for one only: meant, none are announced as 0.
     static AutoUString<UTF8> AnnounceOffers(unsigned int count);
-
-    // Every English text above, for tools that list what a translator has to translate.
-    static ConstArrayOf<char const*> Keys();
 };

@@ -14,9 +14,9 @@
 // translation is looked up, and it says which argument is which variable: arguments are given in the order in which the
 // variables stand in it. A translation may use them in any order, repeat or leave them out.
 //
-//   MakeUString(FormatPlusArguments(FormatPlusArguments(UFormat("{date} {time}"), date), time))
+//   MakeUString(UFormat("{date} {time}").With(date, time))
 //
-// Formatting fails with one of the classes in format_errors.h; a faulty translation fails and does not fall back to the
+// Formatting fails with one of the exceptions of format_string.h; a faulty translation fails and does not fall back to the
 // English text. The key, the text and the arguments are views until the result is made: the caller keeps them alive.
 // Main thread only.
 
@@ -25,25 +25,27 @@ template <std::size_t N>
 struct FormatPlusArguments {
     UStringRef<UTF8> key;
     UStringRef<UTF8> text;
-    std::array<UStringRef<UTF8>, N> arguments;
+    std::array<UStringRef<UTF8>, N> arguments = {};
 
+    FormatPlusArguments(UStringRef<UTF8> english, UStringRef<UTF8> chosen) requires(N == 0)
+        : key(english), text(chosen) {}
     // One argument more than `fewer`.
-    FormatPlusArguments(FormatPlusArguments<N - 1> const& fewer, UStringRef<UTF8> last)
+    FormatPlusArguments(FormatPlusArguments<N - 1> const& fewer, UStringRef<UTF8> last) requires(N > 0)
         : key(fewer.key), text(fewer.text) {
         std::copy(fewer.arguments.begin(), fewer.arguments.end(), arguments.begin());
-        arguments[N - 1] = last;
+        arguments.back() = last;
+    }
+
+    // These arguments more, in their order: each is anything that converts to UStringRef<UTF8>.
+    template <class... Rest>
+    auto With(UStringRef<UTF8> next, Rest const&... rest) const {
+        FormatPlusArguments<N + 1> const longer(*this, next);
+        if constexpr (sizeof...(rest) == 0)
+            return longer;
+        else
+            return longer.With(rest...);
     }
 };
-template <>
-struct FormatPlusArguments<0> {
-    UStringRef<UTF8> key;
-    UStringRef<UTF8> text;
-    std::array<UStringRef<UTF8>, 0> arguments = {};
-
-    FormatPlusArguments(UStringRef<UTF8> english, UStringRef<UTF8> chosen) : key(english), text(chosen) {}
-};
-template <std::size_t N>
-FormatPlusArguments(FormatPlusArguments<N> const&, UStringRef<UTF8>) -> FormatPlusArguments<N + 1>;
 
 // The key with the context's override, or the default text when it has none.
 inline FormatPlusArguments<0> UFormat(UStringRef<UTF8> key, UStringRef<UTF8> defaultText,

@@ -12,11 +12,11 @@ using Arguments = std::vector<char const*>;
 
 // The text, rendered for the key and up to two arguments.
 Stringy Render(char const* key, char const* text, Arguments const& arguments) {
-    FormatPlusArguments<0> none(key, text);
-    if (arguments.empty()) return Stringy(MakeUString(none).AsStringView());
-    FormatPlusArguments one(none, arguments[0]);
-    if (arguments.size() == 1) return Stringy(MakeUString(one).AsStringView());
-    return Stringy(MakeUString(FormatPlusArguments(one, arguments[1])).AsStringView());
+    FormatPlusArguments<0> const format(key, text);
+    auto const rendered = arguments.empty()       ? MakeUString(format)
+                          : arguments.size() == 1 ? MakeUString(format.With(arguments[0]))
+                                                  : MakeUString(format.With(arguments[0], arguments[1]));
+    return Stringy(rendered.AsStringView());
 }
 
 TEST(UFormatTest, VariablesAreReplacedByName) {

@@ -1,27 +1,33 @@
 #include "messages/client_requests.h"
 
 #include <array>
-#include <string_view>
 #include <utility>
 
 #include "xml/serialize.h"
 
-ActionRequest::ActionRequest(unsigned long long id_, NullOr<TimeObject> deadline_, UStringRef<UTF8> title_,
-                             UStringRef<UTF8> description_, bool cancellable_, bool restart_, bool shutdown_,
-                             bool force_run_, bool request_save_, bool use_canned_strings_, NullOr<Text> preview_,
-                             NullOr<Text> pre_action_message_)
-    : pre_action_message(std::move(pre_action_message_)),
-      deadline(std::move(deadline_)),
-      short_description(description_),
-      preview(std::move(preview_)),
-      id(id_),
-      title(title_),
-      cancellable(cancellable_),
-      restart(restart_),
-      shutdown(shutdown_),
-      force_run(force_run_),
-      request_save(request_save_),
-      use_canned_strings(use_canned_strings_) {}
+namespace {
+
+// In the order of the enumeration.
+constexpr std::array<char const*, 4> kRemoveTypes = {"Action", "Offer", "Message", "All"};
+
+}  // namespace
+
+ActionRequest::ActionRequest(unsigned long long action_id, NullOr<TimeObject> due, UStringRef<UTF8> title_text,
+                             UStringRef<UTF8> description, bool can_cancel, bool restarts, bool shuts_down,
+                             bool is_forced, bool asks_to_save, bool uses_canned_strings, NullOr<Text> script,
+                             NullOr<Text> question)
+    : pre_action_message(std::move(question)),
+      deadline(std::move(due)),
+      short_description(description),
+      preview(std::move(script)),
+      id(action_id),
+      title(title_text),
+      cancellable(can_cancel),
+      restart(restarts),
+      shutdown(shuts_down),
+      force_run(is_forced),
+      request_save(asks_to_save),
+      use_canned_strings(uses_canned_strings) {}
 
 NullOr<Instant> ActionRequest::Deadline() const {
     if (!deadline) return {};
@@ -62,13 +68,6 @@ void XMLSerialize(XMLElement const& element, QuietModeStart& period) {
     XMLSerialize(element, "StartTime", period.start_time);
     XMLSerialize(element, "EndTime", period.end_time);
 }
-
-namespace {
-
-// In the order of the enumeration.
-constexpr std::array<char const*, 4> kRemoveTypes = {"Action", "Offer", "Message", "All"};
-
-}  // namespace
 
 void XMLLoad(XMLElement const& element, RemoveRequest& request) {
     Stringy type;

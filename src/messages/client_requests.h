@@ -5,10 +5,14 @@
 #include "foundation/time/instant.h"
 #include "foundation/time/time_object.h"
 
-class XMLElement;
+// What the client asks of the user interface. Each is read from its element: fields that the element lacks keep what they
+// hold, of several with one name the first counts. A malformed number, duration or time throws what its reader throws
+// (numerals.h, xml_duration.h, text_to_time.h), and the fields before it stay read.
 
-// A deadline that is closer than this, or past, is near: a forced action counts down and is not shown closer, the user is
-// told to take the others now, and nothing can be put off any more.
+class XMLElement;
+class XMLWriter;
+
+// A deadline that is closer than this, or past, is near: the user is told to act now, and nothing can be put off any more.
 inline constexpr TimeInterval kNearDeadline = TimeInterval::Minutes(5);
 
 // One pending action that the client offers to the user: a value, cheap to copy since its texts are shared.
@@ -17,9 +21,9 @@ struct ActionRequest {
 
     // Empty: no texts, no deadline, ID 0, every flag false.
     ActionRequest() = default;
-    ActionRequest(unsigned long long id, NullOr<TimeObject> deadline, UStringRef<UTF8> title,
-                  UStringRef<UTF8> description, bool cancellable, bool restart, bool shutdown, bool force_run,
-                  bool request_save, bool use_canned_strings, NullOr<Text> preview, NullOr<Text> pre_action_message);
+    ActionRequest(unsigned long long action_id, NullOr<TimeObject> due, UStringRef<UTF8> title_text,
+                  UStringRef<UTF8> description, bool can_cancel, bool restarts, bool shuts_down, bool is_forced,
+                  bool asks_to_save, bool uses_canned_strings, NullOr<Text> script, NullOr<Text> question);
 
     // The deadline as the client sent it, on the time line; null when there is none.
     NullOr<Instant> Deadline() const;
@@ -40,11 +44,7 @@ struct ActionRequest {
     bool use_canned_strings = false;
 };
 
-// Reads the fields that the element has; the others keep what they hold. A malformed number or time throws what its
-// reader throws (numerals.h, time_text.h), and the fields before it stay read.
 void XMLSerialize(XMLElement const& element, ActionRequest& request);
-
-class XMLElement;
 
 // The client asks for a message to be shown, or for the one of the same ID to be changed.
 struct MessageRequest {
@@ -55,10 +55,7 @@ struct MessageRequest {
     unsigned long long id = 0;
 };
 
-// Reads the fields that the element has, in the order above; the others keep what they hold.
 void XMLSerialize(XMLElement const& element, MessageRequest& request);
-
-class XMLElement;
 
 // The period in which the user interface is not to be used. A time that the message lacks is the beginning of 1970.
 struct QuietModeStart {
@@ -68,9 +65,6 @@ struct QuietModeStart {
 
 void XMLSerialize(XMLElement const& element, QuietModeStart& period);
 
-class XMLElement;
-class XMLWriter;
-
 enum class RemoveType { Action = 0, Offer = 1, Message = 2, All = 3 };
 
 // The client withdraws an action, a message, or both.
@@ -79,8 +73,7 @@ struct RemoveRequest {
     RemoveType remove_type = RemoveType::All;
 };
 
-// Reads "RemoveType" and "ID". A type that is none of "Action", "Offer", "Message" and "All" to the letter leaves the
-// type as it is.
+// A type that is none of "Action", "Offer", "Message" and "All" to the letter leaves the type as it is.
 void XMLLoad(XMLElement const& element, RemoveRequest& request);
 
 // Writes the two fields into the element that is open: the client's side of the same form.

@@ -8,11 +8,11 @@
 #include "foundation/text/base64.h"
 #include "xml/serialize.h"
 
-FileTransfer::FileTransfer(FileName const& name, FileName const& subFolder, Stringy base64Content)
-    : name_(name), sub_folder_(subFolder), content_(std::move(base64Content)) {}
+FileTransfer::FileTransfer(FileName const& name, FileName const& sub_folder, Stringy base64_content)
+    : name_(name), sub_folder_(sub_folder), content_(std::move(base64_content)) {}
 
-FileTransfer::FileTransfer(FileLocation const& file, FileName const& name, FileName const& subFolder)
-    : FileTransfer(name, subFolder, {}) {
+FileTransfer::FileTransfer(FileLocation const& file, FileName const& name, FileName const& sub_folder)
+    : FileTransfer(name, sub_folder, {}) {
     ReadFromFile(file);
 }
 
@@ -83,9 +83,7 @@ NullOrConstRef<FileTransfer> InitializationInfo::GeneralLocalization(FileName co
 
 NullOrConstRef<FileTransfer> InitializationInfo::LocalizedBrandTranslation(FileName const& first,
                                                                            FileName const& second) const {
-    FileName prefix;
-    prefix.Set("_brand", 6);
-    return GetLocalization(prefix, first, second);
+    return GetLocalization(FileName("_brand"), first, second);
 }
 
 void XMLSerialize(XMLElement const& element, InitializationInfo& info) {

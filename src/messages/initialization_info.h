@@ -15,9 +15,9 @@ class XMLElement;
 class FileTransfer {
   public:
     FileTransfer() = default;
-    FileTransfer(FileName const& name, FileName const& subFolder, Stringy base64Content);
+    FileTransfer(FileName const& name, FileName const& sub_folder, Stringy base64_content);
     // Takes the content from the file. Throws what reading it throws (file_errors.h).
-    FileTransfer(FileLocation const& file, FileName const& name, FileName const& subFolder);
+    FileTransfer(FileLocation const& file, FileName const& name, FileName const& sub_folder);
 
     FileName const& Name() const { return name_; }
     FileName const& SubFolder() const { return sub_folder_; }
@@ -42,12 +42,10 @@ class FileTransfer {
 // Reads "FileName", "SubFolder" and "Content". The names are stored as they stand, unchecked.
 void XMLLoad(XMLElement const& element, FileTransfer& file);
 
-class XMLElement;
-
 // The settings that the client hands over at the start. Everything is zero, false or null until read.
 //
-// No dialog of this program reads the history, balloon, tray and activity settings: they belong to the client's message
-// and are kept complete.
+// This program goes by remind_interval, remind_time, allow_snooze and use_locale. Nothing reads the others: they belong
+// to the client's message and are kept complete.
 struct InitialUISettings {
     TimeInterval remind_interval{0};
     NullOr<TimeObject> remind_time;
@@ -70,8 +68,6 @@ struct InitialUISettings {
 
 // Reads the fields that the element has, in the order above; the others keep what they hold.
 void XMLSerialize(XMLElement const& element, InitialUISettings& settings);
-
-class XMLElement;
 
 // The client's first message: where the process keeps its files, the support files themselves, and the settings.
 //

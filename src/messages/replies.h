@@ -1,5 +1,7 @@
 #pragma once
 
+#include <utility>
+
 #include "foundation/base/const_data.h"
 #include "foundation/text/auto_ustring.h"
 #include "foundation/time/instant.h"
@@ -36,8 +38,7 @@ struct ClientUIErrorMessage {
         DialogNotShown = 2,  // The debug string is the dialog's name.
     };
     ClientUIErrorMessage() = default;
-    ClientUIErrorMessage(ErrorCode code, Stringy debugString)
-        : error_code(code), debug_string(std::move(debugString)) {}
+    ClientUIErrorMessage(ErrorCode code, Stringy text) : error_code(code), debug_string(std::move(text)) {}
 
     ErrorCode error_code = ErrorCode::Unset;
     Stringy debug_string;

@@ -19,7 +19,7 @@ AutoUString<UTF8> TimeOfDayToXMLTime(TimeOfDay const& time);
 AutoUString<UTF8> TimeZoneToText(TimeZone const& zone);
 // 2026-11-15T02:16:00+01:00: the instant to the second, on a clock of the local zone. XML Schema has zones of whole
 // minutes up to 14 hours from UTC; a local zone that is none of these is replaced by the nearest toward UTC, so that
-// the text always names the same instant.
+// the text names the same instant. One before the year 0 is written as the beginning of that year.
 AutoUString<UTF8> InstantToXMLDateTime(Instant const& instant);
 
 // Reads what DateRecordToXMLDate writes: a year of four digits, or of more that do not begin with "0", at most

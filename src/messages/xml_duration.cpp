@@ -11,6 +11,17 @@ namespace {
 
 using Magnitude = unsigned long long;
 
+constexpr std::uint32_t kFinestScale = 1'000'000;
+
+[[noreturn]] void FailTooLarge() {
+    throw DebuggableException("Could not convert XMLDuration to TimeInterval due to integer overflow.");
+}
+
+[[noreturn]] void FailTooFine() {
+    throw DebuggableException(
+        "Could not convert XMLDuration to TimeInterval: cannot handle more than microsecond precision.");
+}
+
 void WriteSeconds(Buffer& text, Magnitude microseconds) {
     text.Number(microseconds / TimeInterval::kSecond, 1);
     if (auto const part = microseconds % TimeInterval::kSecond) (text << ".").Number(part, 6);
@@ -46,21 +57,6 @@ TimeInterval XMLDurationToTimeInterval(UStringRef<UTF8> text) {
     for (char const c : text.AsStringView()) parser.HandleChar(c);
     return parser.Finish();
 }
-
-namespace {
-
-constexpr std::uint32_t kFinestScale = 1'000'000;
-
-[[noreturn]] void FailTooLarge() {
-    throw DebuggableException("Could not convert XMLDuration to TimeInterval due to integer overflow.");
-}
-
-[[noreturn]] void FailTooFine() {
-    throw DebuggableException(
-        "Could not convert XMLDuration to TimeInterval: cannot handle more than microsecond precision.");
-}
-
-}  // namespace
 
 void XMLDurationParser::Fail() {
     throw DebuggableException("Could not convert XMLDuration to TimeInterval");

@@ -1,7 +1,5 @@
 #include "xml/simple_xml.h"
 
-#include "xml/sax_parser.h"
-
 void XMLTreeParser::StartElement(UStringRef<UTF8> name, ResourceTransfer<XMLAttributes> attributes) {
     if (open_.empty()) {
         root_ = std::make_unique<XMLElement>(SharedUString<UTF8>(name), std::move(attributes));

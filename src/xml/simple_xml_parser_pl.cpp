@@ -1,332 +1,156 @@
 #include "xml/simple_xml_parser_pl.h"
 
 #include <algorithm>
-#include <bit>
-#include <cstdint>
-#include <cstring>
-#include <string_view>
+#include <charconv>
 
-// Finding where a run of ordinary bytes ends, eight bytes at a time.
-
-namespace ByteScan {
-
-// Marks the bytes of the word that equal `byte` by their top bits. Above the lowest mark there may be false ones.
-inline std::uint64_t MarksOf(std::uint64_t word, char byte) {
-    constexpr std::uint64_t ones = 0x0101010101010101;
-    auto difference = word ^ (ones * static_cast<unsigned char>(byte));
-    return (difference - ones) & ~difference & (ones << 7);
+// Takes the bytes before the first of `stops`, or all that are left.
+template <class... Bytes>
+std::string_view SimpleXMLParserPL::TakeRun(Bytes... stops) {
+    auto stop = std::find_if(rest_.begin(), rest_.end(), [=](char byte) { return ((byte == stops) || ...); });
+    std::string_view run(rest_.begin(), stop);
+    rest_.remove_prefix(run.size());
+    return run;
 }
 
-// The first place of either byte, or `end`.
-inline char const* FindEither(char const* at, char const* end, char one, char other) {
-    for (; end - at >= 8; at += 8) {
-        std::uint64_t word;
-        std::memcpy(&word, at, 8);
-        auto marks = MarksOf(word, one) | MarksOf(word, other);
-        if (marks == 0) continue;
-        if constexpr (std::endian::native != std::endian::little) break;
-        return at + std::countr_zero(marks) / 8;
-    }
-    while (at != end && *at != one && *at != other) ++at;
-    return at;
+// Answers whether a byte was left.
+bool SimpleXMLParserPL::TakeByte() {
+    if (rest_.empty()) return false;
+    current_ = rest_.front();
+    rest_.remove_prefix(1);
+    return true;
 }
 
-}  // namespace ByteScan
+// Appends to `buffer` what stands before the first of `stops` and takes that byte, if it has come.
+template <class... Bytes>
+bool SimpleXMLParserPL::TakeUpTo(Stringy& buffer, Bytes... stops) {
+    buffer += TakeRun(stops...);
+    return TakeByte();
+}
 
-// What leaving and entering a state entails: a part of the parser's own sources, inlined where both states are known,
-// so that a transition costs no more than its actions.
+void SimpleXMLParserPL::Parse(ConstData bytes) {
+    rest_ = bytes.AsStringView();
+    while (!rest_.empty()) Step();
+}
 
-[[gnu::always_inline]] inline void SimpleXMLParserPL::LeaveState(State from, State next) {
-    switch (from) {
+// The table of states: what each collects, which bytes end that, and what such a byte does.
+void SimpleXMLParserPL::Step() {
+    switch (state_) {
         case State::Characters:
-        case State::CData:
-            FlushText();
+            AddCharacters(TakeRun('<', '&'));
+            if (TakeByte()) TransitionState(current_ == '<' ? State::TagName : State::CharactersEntity);
             break;
         case State::CharactersEntity:
-            escape_ += ';';
-            handler_.Characters(DecodeEscapeString());
+            if (TakeUpTo(escape_, ';')) TransitionState(State::Characters);
             break;
         case State::TagName:
-        case State::BetweenAttributes:
-            if (next == State::Characters) ReportTag();
+            if (TakeUpTo(tag_name_, ' ', '/', '>', '-', '[')) StepInTagName();
             break;
         case State::EndTagName:
-            if (next == State::Characters) handler_.EndElement(tag_name_);
-            break;
-        case State::AttributeValue:
-            if (next != State::AttributeEntity) ++attribute_count_;
-            break;
-        case State::AttributeEntity:
-            escape_ += ';';
-            attribute_->second += DecodeEscapeString();
-            break;
-        default:
-            break;
-    }
-}
-
-[[gnu::always_inline]] inline void SimpleXMLParserPL::EnterState(State next) {
-    switch (next) {
-        case State::CharactersEntity:
-        case State::AttributeEntity:
-            escape_ = '&';
-            break;
-        case State::TagName:
-            dashes_ = 0;
-            tag_name_.clear();
-            attribute_count_ = 0;
+            if (TakeUpTo(tag_name_, '>')) TransitionState(State::Characters);
             break;
         case State::BetweenAttributes:
-            BeginAttribute();
+            TakeByte();
+            if (current_ == '>')
+                TransitionState(State::Characters);
+            else if (current_ != ' ' && current_ != '?')
+                TransitionState(State::AttributeName);
             break;
         case State::AttributeName:
-            attribute_->first += current_;
+            if (TakeUpTo(Attribute().first, '=')) TransitionState(State::BeforeAttributeValue);
+            break;
+        case State::BeforeAttributeValue:
+            TakeRun('"', '\'');
+            if (!TakeByte()) break;
+            quote_ = current_;
+            TransitionState(State::AttributeValue);
+            break;
+        case State::AttributeValue:
+            if (TakeUpTo(Attribute().second, quote_, '&'))
+                TransitionState(current_ == '&' ? State::AttributeEntity : State::BetweenAttributes);
+            break;
+        case State::AttributeEntity:
+            if (TakeUpTo(escape_, ';')) TransitionState(State::AttributeValue);
             break;
         case State::Comment:
-            dashes_ = 0;
+            TakeByte();
+            StepInComment();
             break;
-        default:
+        case State::CData:
+            if (TakeUpTo(text_, '>')) StepInCData();
             break;
     }
 }
 
-[[gnu::always_inline]] inline void SimpleXMLParserPL::Go(State from, State next) {
-    LeaveState(from, next);
+// A run that ends here goes to the handler as it stands: of a large text, collecting it would make a second copy.
+void SimpleXMLParserPL::AddCharacters(std::string_view run) {
+    if (!text_.empty() || rest_.empty())
+        text_ += run;
+    else if (!run.empty())
+        handler_.Characters(run);
+}
+
+void SimpleXMLParserPL::StepInTagName() {
+    if (current_ == '/') return TransitionState(State::EndTagName);
+    if (current_ == '>') return TransitionState(State::Characters);
+    if (current_ == ' ' && !tag_name_.empty()) return TransitionState(State::BetweenAttributes);
+    if (current_ == '-' && ++dashes_ > 1) return TransitionState(State::Comment);
+    if (current_ != '[') return;  // the first dash is dropped, and so are spaces before the name
+    tag_name_ += current_;
+    if (tag_name_ == "![CDATA[") TransitionState(State::CData);
+}
+
+void SimpleXMLParserPL::StepInComment() {
+    if (current_ == '-')
+        dashes_ = std::min(dashes_ + 1, 2);  // two are as good as more
+    else if (current_ == '>' && dashes_ > 1)
+        TransitionState(State::Characters);
+    else
+        dashes_ = 0;
+}
+
+void SimpleXMLParserPL::StepInCData() {
+    if (!text_.ends_with("]]")) {
+        text_ += current_;
+        return;
+    }
+    text_.resize(text_.size() - 2);
+    // Only now, or bytes that a zero keeps apart would count as the end.
+    std::erase(text_, '\0');
+    TransitionState(State::Characters);
+}
+
+void SimpleXMLParserPL::TransitionState(State next) {
+    LeaveState(next);
     EnterState(next);
     state_ = next;
 }
 
-namespace {
-
-constexpr std::string_view kCDataMark = "![CDATA[";
-
-std::size_t Length(char const* begin, char const* end) {
-    return static_cast<std::size_t>(end - begin);
+void SimpleXMLParserPL::LeaveState(State next) {
+    if (state_ == State::CharactersEntity || state_ == State::AttributeEntity) escape_ += ';';
+    if (state_ == State::Characters || state_ == State::CData) ReportText();
+    if (state_ == State::CharactersEntity) handler_.Characters(DecodeEscapeString());
+    if ((state_ == State::TagName || state_ == State::BetweenAttributes) && next == State::Characters) ReportTag();
+    if (state_ == State::EndTagName && next == State::Characters) handler_.EndElement(tag_name_);
+    if (state_ == State::AttributeValue && next != State::AttributeEntity) ++attribute_count_;
+    if (state_ == State::AttributeEntity) Attribute().second += DecodeEscapeString();
 }
 
-// The first place of the byte, or `end`.
-char const* Find(char const* at, char const* end, char byte) {
-    auto found = static_cast<char const*>(std::memchr(at, byte, Length(at, end)));
-    return found ? found : end;
+void SimpleXMLParserPL::EnterState(State next) {
+    if (next == State::CharactersEntity || next == State::AttributeEntity) escape_ = '&';
+    if (next == State::TagName || next == State::Comment) dashes_ = 0;
+    if (next == State::TagName) tag_name_.clear();
+    if (next == State::TagName) attribute_count_ = 0;
+    if (next == State::BetweenAttributes) BeginAttribute();
+    if (next == State::AttributeName) Attribute().first += current_;
 }
 
-bool EndsRunOfTagName(char byte) {
-    return byte == ' ' || byte == '/' || byte == '>' || byte == '-';
+void SimpleXMLParserPL::BeginAttribute() {
+    if (pairs_.size() == attribute_count_) pairs_.emplace_back();
+    Attribute().first.clear();
+    Attribute().second.clear();
 }
 
-}  // namespace
-
-void SimpleXMLParserPL::Feed(char const* at, char const* end) {
-    while (at != end) switch (state_) {
-            case State::Characters:
-                at = InCharacters(at, end);
-                break;
-            case State::CharactersEntity:
-                at = InEntity(at, end, State::Characters);
-                break;
-            case State::TagName:
-                at = InTagName(at, end);
-                break;
-            case State::EndTagName:
-                at = InEndTagName(at, end);
-                break;
-            case State::BetweenAttributes:
-                at = BetweenAttributes(at);
-                break;
-            case State::AttributeName:
-                at = InAttributeName(at, end);
-                break;
-            case State::BeforeAttributeValue:
-                at = BeforeAttributeValue(at, end);
-                break;
-            case State::AttributeValue:
-                at = InAttributeValue(at, end);
-                break;
-            case State::AttributeEntity:
-                at = InEntity(at, end, State::AttributeValue);
-                break;
-            case State::Comment:
-                at = InComment(at, end);
-                break;
-            case State::CData:
-                at = InCData(at, end);
-                break;
-        }
-}
-
-char const* SimpleXMLParserPL::InCharacters(char const* at, char const* end) {
-    auto stop = ByteScan::FindEither(at, end, '<', '&');
-    if (stop == end || !text_.empty())
-        text_.append(at, Length(at, stop));
-    else if (stop != at)
-        handler_.Characters(std::string_view(at, Length(at, stop)));  // a whole run: no need to collect it
-    if (stop == end) return end;
-    Go(State::Characters, *stop == '<' ? State::TagName : State::CharactersEntity);
-    return stop + 1;
-}
-
-char const* SimpleXMLParserPL::InEntity(char const* at, char const* end, State after) {
-    auto stop = Find(at, end, ';');
-    escape_.append(at, Length(at, stop));
-    if (stop == end) return end;
-    Go(state_, after);
-    return stop + 1;
-}
-
-char const* SimpleXMLParserPL::InTagName(char const* at, char const* end) {
-    auto stop = std::find_if(at, end, EndsRunOfTagName);
-    if (stop != at) return AppendToTagName(at, stop);
-    EndTagNameRun(*at);
-    return at + 1;
-}
-
-// Appends as much as may be taken without missing the moment when the name is the mark of a CDATA section.
-char const* SimpleXMLParserPL::AppendToTagName(char const* at, char const* end) {
-    auto size = tag_name_.size();
-    bool maybe_mark = size < kCDataMark.size() && (size == 0 ? *at : tag_name_[0]) == kCDataMark[0];
-    if (maybe_mark) end = at + std::min(Length(at, end), kCDataMark.size() - size);
-    tag_name_.append(at, Length(at, end));
-    if (maybe_mark && tag_name_ == kCDataMark) {
-        tag_name_.clear();
-        previous_ = before_previous_ = 0;
-        Go(State::TagName, State::CData);
-    }
-    return end;
-}
-
-void SimpleXMLParserPL::EndTagNameRun(char byte) {
-    switch (byte) {
-        case ' ':
-            if (!tag_name_.empty()) Go(State::TagName, State::BetweenAttributes);
-            break;
-        case '/':
-            Go(State::TagName, State::EndTagName);
-            break;
-        case '>':
-            Go(State::TagName, State::Characters);
-            break;
-        // Dropped from the name, even when no comment follows.
-        case '-':
-            if (++dashes_ > 1) Go(State::TagName, State::Comment);
-            break;
-    }
-}
-
-char const* SimpleXMLParserPL::InEndTagName(char const* at, char const* end) {
-    auto stop = Find(at, end, '>');
-    tag_name_.append(at, Length(at, stop));
-    if (stop == end) return end;
-    Go(State::EndTagName, State::Characters);
-    return stop + 1;
-}
-
-char const* SimpleXMLParserPL::BetweenAttributes(char const* at) {
-    current_ = *at;
-    if (current_ == '>')
-        Go(State::BetweenAttributes, State::Characters);
-    else if (current_ != ' ' && current_ != '?')
-        Go(State::BetweenAttributes, State::AttributeName);
-    return at + 1;
-}
-
-char const* SimpleXMLParserPL::InAttributeName(char const* at, char const* end) {
-    auto stop = Find(at, end, '=');
-    attribute_->first.append(at, Length(at, stop));
-    if (stop == end) return end;
-    Go(State::AttributeName, State::BeforeAttributeValue);
-    return stop + 1;
-}
-
-char const* SimpleXMLParserPL::BeforeAttributeValue(char const* at, char const* end) {
-    auto stop = ByteScan::FindEither(at, end, '"', '\'');
-    if (stop == end) return end;
-    quote_ = *stop;
-    Go(State::BeforeAttributeValue, State::AttributeValue);
-    return stop + 1;
-}
-
-char const* SimpleXMLParserPL::InAttributeValue(char const* at, char const* end) {
-    auto stop = ByteScan::FindEither(at, end, quote_, '&');
-    attribute_->second.append(at, Length(at, stop));
-    if (stop == end) return end;
-    Go(State::AttributeValue, *stop == '&' ? State::AttributeEntity : State::BetweenAttributes);
-    return stop + 1;
-}
-
-char const* SimpleXMLParserPL::InComment(char const* at, char const* end) {
-    auto stop = Find(at, end, '>');
-    auto dashes = stop;
-    while (dashes != at && dashes[-1] == '-') --dashes;
-    // Two are as good as more.
-    auto count = (dashes == at ? dashes_ : 0) + static_cast<std::int32_t>(std::min<std::ptrdiff_t>(stop - dashes, 2));
-    dashes_ = std::min(count, 2);
-    if (stop == end) return end;
-    if (dashes_ > 1)
-        Go(State::Comment, State::Characters);
-    else
-        dashes_ = 0;
-    return stop + 1;
-}
-
-char const* SimpleXMLParserPL::InCData(char const* at, char const* end) {
-    auto stop = Find(at, end, '>');
-    AppendToCData(at, stop);
-    if (stop == end) return end;
-    if (previous_ == ']' && before_previous_ == ']')
-        Go(State::CData, State::Characters);
-    else
-        AppendToCData(stop, stop + 1);
-    return stop + 1;
-}
-
-// Content becomes text two bytes late: the last two may belong to the end of the section.
-void SimpleXMLParserPL::AppendToCData(char const* at, char const* end) {
-    if (at == end) return;
-    char const held[] = {before_previous_, previous_};
-    if (end - at == 1) {
-        AppendWithoutZeros(held, held + 1);
-        before_previous_ = previous_;
-    } else {
-        AppendWithoutZeros(held, held + 2);
-        AppendWithoutZeros(at, end - 2);
-        before_previous_ = end[-2];
-    }
-    previous_ = end[-1];
-}
-
-// A zero byte in the history means that there is none yet, so zero bytes of the content are lost.
-void SimpleXMLParserPL::AppendWithoutZeros(char const* at, char const* end) {
-    while (at != end) {
-        auto zero = Find(at, end, 0);
-        text_.append(at, Length(at, zero));
-        at = zero == end ? end : zero + 1;
-    }
-}
-
-namespace {
-
-// The value of the hexadecimal digits that the text begins with. It wraps around at 32 bits.
-std::uint32_t LeadingHexNumber(std::string_view text) {
-    std::uint32_t number = 0;
-    for (char byte : text) {
-        auto lower = byte | 0x20;
-        if (byte >= '0' && byte <= '9')
-            number = number * 16 + static_cast<std::uint32_t>(byte - '0');
-        else if (lower >= 'a' && lower <= 'f')
-            number = number * 16 + static_cast<std::uint32_t>(lower - 'a' + 10);
-        else
-            break;
-    }
-    return number;
-}
-
-}  // namespace
-
-void SimpleXMLParserPL::TransitionState(State next) {
-    Go(state_, next);
-}
-
-void SimpleXMLParserPL::FlushText() {
+void SimpleXMLParserPL::ReportText() {
     if (text_.empty()) return;
     handler_.Characters(text_);
     text_.clear();
@@ -341,21 +165,18 @@ void SimpleXMLParserPL::ReportTag() {
         handler_.StartElement(tag_name_, attributes_);
 }
 
-void SimpleXMLParserPL::BeginAttribute() {
-    if (pairs_.size() == attribute_count_) pairs_.emplace_back();
-    attribute_ = &pairs_[attribute_count_];
-    attribute_->first.clear();
-    attribute_->second.clear();
-}
-
 Stringy SimpleXMLParserPL::DecodeEscapeString() const {
-    if (escape_ == "&lt;") return "<";
-    if (escape_ == "&gt;") return ">";
-    if (escape_ == "&amp;") return "&";
-    if (escape_ == "&quot;") return "\"";
+    constexpr std::pair<std::string_view, char> kEntities[] = {
+        {"&lt;", '<'}, {"&gt;", '>'}, {"&amp;", '&'}, {"&quot;", '"'}};
+    for (auto [entity, character] : kEntities)
+        if (escape_ == entity) return Stringy(1, character);
     if (!escape_.starts_with("&#x")) return escape_;
-    auto number = LeadingHexNumber(std::string_view(escape_).substr(3));
-    // One raw byte, not the UTF-8 form of the character; the upper half of the range counts as negative.
-    if (static_cast<std::int32_t>(number) > 255) return escape_;
-    return Stringy(1, static_cast<char>(number));
+    auto digits = std::string_view(escape_).substr(3);
+    digits = digits.substr(0, digits.find_first_not_of("0123456789abcdefABCDEF"));
+    // The number has 32 bits, which are the last eight digits, and a sign: the upper half of the range is negative.
+    if (digits.size() > 8) digits.remove_prefix(digits.size() - 8);
+    std::uint32_t number = 0;
+    std::from_chars(digits.begin(), digits.end(), number, 16);
+    // One raw byte, not the UTF-8 form of the character.
+    return static_cast<std::int32_t>(number) > 255 ? escape_ : Stringy(1, static_cast<char>(number));
 }

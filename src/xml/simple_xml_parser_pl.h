@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -28,7 +29,8 @@ class XMLHandler {
 
 // A small, forgiving XML parser: a state machine over bytes that reports to a handler and rejects nothing.
 //
-// What the two ends of the conversation write is read in full. Everything else has one fixed outcome, which is meant:
+// What an XMLWriter has written is read back, but for hyphens in names and zero bytes in CDATA sections. Whatever else
+// comes has one fixed outcome, which is meant:
 // - only the space separates; a tab or a line feed inside a tag is part of a name;
 // - "<a/>" is an end tag, and "/" after an attribute begins another attribute's name;
 // - the first hyphen of a tag name is dropped, the second begins a comment, which ends at the first ">" after two or
@@ -66,10 +68,11 @@ class SimpleXMLParserPL : public XMLHandler {
     SimpleXMLParserPL& operator=(SimpleXMLParserPL const&) = delete;
 
     // Feeds the next bytes of the document.
-    void Parse(char const* data, unsigned int length) { Feed(data, data + length); }
-    void Parse(Stringy const& bytes) { Feed(bytes.data(), bytes.data() + bytes.size()); }
+    void Parse(char const* data, unsigned int length) { Parse(std::string_view(data, length)); }
+    void Parse(ConstData bytes);
 
-    // Leaves the present state and enters the next, with what both entail; the state changes in no other way.
+    // Leaves the present state and enters the next, with what either entails; the state changes in no other way. For the
+    // parser's own steps: `next` must be a state that the present one leads to.
     void TransitionState(State next);
     // The text that the entity read last stands for.
     Stringy DecodeEscapeString() const;
@@ -79,46 +82,36 @@ class SimpleXMLParserPL : public XMLHandler {
     void EndElement(ConstData) override {}
     void Characters(ConstData) override {}
 
-  protected:
-    void Feed(char const* at, char const* end);
-
   private:
-    // What each state makes of the bytes in [at, end), at least one: they take one byte or a whole run, and return the
-    // first byte that they leave.
-    char const* InCharacters(char const* at, char const* end);
-    char const* InEntity(char const* at, char const* end, State after);
-    char const* InTagName(char const* at, char const* end);
-    char const* InEndTagName(char const* at, char const* end);
-    char const* BetweenAttributes(char const* at);
-    char const* InAttributeName(char const* at, char const* end);
-    char const* BeforeAttributeValue(char const* at, char const* end);
-    char const* InAttributeValue(char const* at, char const* end);
-    char const* InComment(char const* at, char const* end);
-    char const* InCData(char const* at, char const* end);
+    template <class... Bytes>
+    std::string_view TakeRun(Bytes... stops);
+    bool TakeByte();
+    template <class... Bytes>
+    bool TakeUpTo(Stringy& buffer, Bytes... stops);
 
-    char const* AppendToTagName(char const* at, char const* end);
-    void EndTagNameRun(char byte);
-    void AppendToCData(char const* at, char const* end);
-    void AppendWithoutZeros(char const* at, char const* end);
-    void Go(State from, State next);
-    void LeaveState(State from, State next);
+    void Step();
+    void StepInTagName();
+    void StepInComment();
+    void StepInCData();
+    void LeaveState(State next);
     void EnterState(State next);
-    void FlushText();
-    void ReportTag();
+
+    void AddCharacters(std::string_view run);
+    void ReportText();
     void BeginAttribute();
+    void ReportTag();
+    XMLAttributePair& Attribute() { return pairs_[attribute_count_]; }
 
     State state_ = State::Characters;
-    char current_ = 0;
-    char previous_ = 0;         // inside CDATA: the byte before the current one,
-    char before_previous_ = 0;  // and the one before that
-    char quote_ = 0;
-    Stringy text_;
-    Stringy escape_;  // from "&" to ";"
+    std::string_view rest_;  // what is left of the piece being fed
+    char current_ = 0;       // the byte taken last
+    char quote_ = 0;         // what began the attribute value
+    Stringy text_;           // of character data that was cut, or of a CDATA section as it stands
+    Stringy escape_;         // from "&" on, to ";" once it is complete
     Stringy tag_name_;
     std::vector<XMLAttributePair const*> attributes_;
-    std::vector<XMLAttributePair>
-        pairs_;  // kept from tag to tag, never shrunk; the first attribute_count_ are complete
-    XMLAttributePair* attribute_ = nullptr;  // the one being read
+    // Kept from tag to tag, never shrunk. The first attribute_count_ are complete, the next is being read.
+    std::vector<XMLAttributePair> pairs_;
     std::uint32_t attribute_count_ = 0;
     std::int32_t dashes_ = 0;
     XMLHandler& handler_;

@@ -26,9 +26,16 @@ TEST(SimpleXML, BuildsTheTreeOfWhateverItIsGiven) {
         {"<a>1&lt;2<b>x</b>&amp;<![CDATA[<c>]]><d></a>", "<a>1&lt;2&amp;&lt;c&gt;<b>x</b><d></d></a>"},
     };
     for (auto [document, tree] : cases) EXPECT_EQ(Reparsed(document), tree) << document;
-    EXPECT_THROW(SimpleXML::Parse("<a k='1' z='2'>")->GetAttribute("m"), NoSuchAttribute);
     for (auto nothing : {"", "text", "<?xml version='1.0'?>", "<!-- <a> -->", "<a/>", "<a"})
         EXPECT_THROW(SimpleXML::Parse(nothing), FormatError) << nothing;
+}
+
+TEST(SimpleXML, FindsTheFirstChildOfANameAndWhatIsAbsentThrows) {
+    auto root = SimpleXML::Parse("<a k='1' z='2'><b>x</b><c></c><b>y</b></a>");
+    EXPECT_EQ(root->GetChildElement("b").GetValue(), UStringRef<UTF8>("x"));
+    EXPECT_EQ(root->GetAttribute("z"), UStringRef<UTF8>("2"));
+    EXPECT_THROW(root->GetChildElement("B"), NoSuchChildElement);
+    EXPECT_THROW(root->GetAttribute("m"), NoSuchAttribute);
 }
 
 TEST(SimpleXML, HandlesAsManyLevelsAsAFrameHolds) {

@@ -6,6 +6,16 @@
 
 #include "xml/xml_writer.h"
 
+namespace {
+
+void WriteBeginning(XMLWriter& writer, XMLElement const& element) {
+    writer.BeginElement(element.Name());
+    for (auto& [name, value] : element.Attributes()) writer.AddAttribute(name, value);
+    writer.WriteString(element.GetValue());
+}
+
+}  // namespace
+
 // Otherwise a growing list of children would copy whole trees.
 static_assert(std::is_nothrow_move_constructible_v<XMLElement>);
 
@@ -24,13 +34,11 @@ XMLElement::XMLElement(XMLElement const& other) : XMLElement(other.name_, other.
     }
 }
 
-XMLElement& XMLElement::operator=(XMLElement&& other) noexcept {
-    // By way of a local, because the other may stand in the tree that this frees.
-    auto taken = std::move(other);
-    name_.swap(taken.name_);
-    std::swap(attributes_, taken.attributes_);
-    value_.swap(taken.value_);
-    children_.swap(taken.children_);
+XMLElement& XMLElement::operator=(XMLElement other) noexcept {
+    name_.swap(other.name_);
+    std::swap(attributes_, other.attributes_);
+    value_.swap(other.value_);
+    children_.swap(other.children_);
     return *this;
 }
 
@@ -52,25 +60,6 @@ UStringRef<UTF8> XMLElement::GetAttribute(UStringRef<UTF8> name) const {
     return *value;
 }
 
-XMLElement& XMLElement::AddChildElement(ResourceTransfer<XMLElement> child) {
-    // By way of a local, because the child may stand in the list that grows.
-    auto taken = std::move(child);
-    MakeRoomForChild();
-    return children_.emplace_back(std::move(taken));
-}
-
-XMLElement& XMLElement::AddChildElement(ResourceTransfer<SharedUString<UTF8>> name,
-                                        ResourceTransfer<XMLAttributes> attributes) {
-    MakeRoomForChild();
-    return children_.emplace_back(std::move(name), std::move(attributes));
-}
-
-// Goes from one child to four: lists that pass through two leave holes in the heap, which slow down everything after.
-void XMLElement::MakeRoomForChild() {
-    if (children_.size() < children_.capacity()) return;
-    children_.reserve(children_.empty() ? 1 : std::max<std::size_t>(4, 2 * children_.size()));
-}
-
 // Takes the tree apart from its last child on, in linear time and without a stack or memory of its own: the children
 // of a child that goes take the place of its siblings, which hang below the first leaf meanwhile. The way down to a
 // first leaf leads along first children only, and never twice over the same. From the last on, because the heap takes
@@ -88,16 +77,6 @@ void XMLElement::DropChildren() noexcept {
         children_ = std::move(orphans);
     }
 }
-
-namespace {
-
-void WriteBeginning(XMLWriter& writer, XMLElement const& element) {
-    writer.BeginElement(element.Name());
-    for (auto [name, value] : element.Attributes()) writer.AddAttribute(name, value);
-    writer.WriteString(element.GetValue());
-}
-
-}  // namespace
 
 XMLWriter& XMLWriter::WriteXMLElement(XMLElement const& element) {
     // The open elements, each with the number of its children already begun.

@@ -25,8 +25,7 @@ class XMLElement {
     // Copies the whole tree below the other.
     XMLElement(XMLElement const& other);
     XMLElement(XMLElement&&) noexcept = default;
-    XMLElement& operator=(XMLElement const& other) { return *this = XMLElement(other); }
-    XMLElement& operator=(XMLElement&& other) noexcept;
+    XMLElement& operator=(XMLElement other) noexcept;
     ~XMLElement() { DropChildren(); }
 
     // The references that these give, and the next, are valid until the element changes.
@@ -46,15 +45,15 @@ class XMLElement {
     // Throws NoSuchAttribute.
     UStringRef<UTF8> GetAttribute(UStringRef<UTF8> name) const;
 
-    // Adds a copy, or the element itself, as the last child and returns the child. Adding moves the earlier children,
-    // not what is below them.
-    XMLElement& AddChildElement(XMLElement const& child) { return AddChildElement(XMLElement(child)); }
-    XMLElement& AddChildElement(ResourceTransfer<XMLElement> child);
+    // Adds a copy as the last child and returns it. Adding moves the earlier children, not what is below them.
+    XMLElement& AddChildElement(XMLElement const& child) { return children_.emplace_back(child); }
     // Adds a child made of these.
-    XMLElement& AddChildElement(ResourceTransfer<SharedUString<UTF8>> name, ResourceTransfer<XMLAttributes> attributes);
+    XMLElement& AddChildElement(ResourceTransfer<SharedUString<UTF8>> name,
+                                ResourceTransfer<XMLAttributes> attributes) {
+        return children_.emplace_back(std::move(name), std::move(attributes));
+    }
 
   private:
-    void MakeRoomForChild();
     void DropChildren() noexcept;
 
     SharedUString<UTF8> name_;

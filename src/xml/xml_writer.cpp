@@ -105,9 +105,9 @@ char const* XMLWriter::ReferenceFor(unsigned char byte, bool attribute) const {
         case '"':
             return attribute ? "&quot;" : nullptr;
         case '\r':
-            return escape_line_breaks_ ? "&#xd;" : nullptr;
+            return escape_line_breaks ? "&#xd;" : nullptr;
         case '\n':
-            return escape_line_breaks_ ? "&#xa;" : nullptr;
+            return escape_line_breaks ? "&#xa;" : nullptr;
         default:
             return nullptr;
     }

@@ -22,9 +22,9 @@ enum class EncodingDeclaration : std::uint32_t { WithEncoding = 0, WithoutEncodi
 //     writer.EndDocument();
 //
 // Styles Indented and LineBreaks put a line feed before every element, the root included, and before every end tag that
-// follows another one; Indented adds a tab for each level. Text stays on the line of its tags. An element without
-// content is written as its start tag and its end tag, never in the self-closing form, which the other side's parser
-// does not understand.
+// follows another one; Indented adds a tab for each level. Text stays on the line of its start tag, and of its end tag if
+// no element comes between; after an end tag it begins a line of its own, without tabs. An element without content is
+// written as its start tag and its end tag, never in the self-closing form.
 //
 // Nothing is buffered: runs of text go to the receiver as ranges of the caller's bytes. A writer serves one document.
 // It throws nothing of its own, and checks nothing: well-formed names, attributes only directly after BeginElement,
@@ -54,8 +54,8 @@ class XMLWriter {
     XMLWriter& BeginWritingTagContent();
     void AfterWritingTagContent() { state_ = TagState::Content; }
 
-    // Whether CR and LF, in text and in attribute values, are written as character references. Off at first.
-    void SetEscapeLineBreaks(bool escape) { escape_line_breaks_ = escape; }
+    // Whether CR and LF, in text and in attribute values, are written as character references.
+    bool escape_line_breaks = false;
 
   private:
     enum class TagState : std::uint32_t { Nothing, StartTagOpen, StartTagClosed, Content, EndTag };
@@ -70,7 +70,6 @@ class XMLWriter {
     UTextReceiver<UTF8>& receiver_;
     XMLFormatStyle style_;
     [[maybe_unused]] bool reserved_ = true;
-    bool escape_line_breaks_ = false;
     std::vector<SharedUString<UTF8>> open_;
     TagState state_ = TagState::Nothing;
 };

@@ -25,4 +25,12 @@ TEST(XMLWriter, EscapesTheQuoteInAttributesOnly) {
               "<a k=\"&quot;&lt;&amp;&gt;'\r\n\xC3\xA9\">&lt;\"&amp;\"'&gt;\r\n\xC3\xA9</a>");
 }
 
+TEST(XMLWriter, EscapesLineBreaksWhenAsked) {
+    UStringBuilder<UTF8> builder;
+    XMLWriter writer(builder, XMLFormatStyle::Compact);
+    writer.escape_line_breaks = true;
+    writer.BeginElement("a").AddAttribute("k", "\r\n").WriteString("\r\n").EndDocument();
+    EXPECT_EQ(builder.Ref().AsStringView(), "<a k=\"&#xd;&#xa;\">&#xd;&#xa;</a>");
+}
+
 }  // namespace

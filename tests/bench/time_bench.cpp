@@ -1,10 +1,9 @@
-// How long the text of numbers, durations and times takes to write and to read back. One iteration is one round trip.
+// How long the text of durations and times takes to write and to read back. One iteration is one round trip.
 #include <benchmark/benchmark.h>
 
 #include <random>
 #include <vector>
 
-#include "foundation/text/numerals.h"
 #include "foundation/time/text_to_time.h"
 #include "foundation/time/time_to_text.h"
 #include "messages/xml_duration.h"
@@ -19,24 +18,15 @@ std::vector<long long> Values() {
     return values;
 }
 
-// Calls `roundTrip` with value after value; the run fails when one does not come back.
+// Calls `round_trip` with value after value; the run fails when one does not come back.
 template <class RoundTrip>
-void Measure(benchmark::State& state, RoundTrip roundTrip) {
+void Measure(benchmark::State& state, RoundTrip round_trip) {
     auto const values = Values();
     while (state.KeepRunningBatch(static_cast<std::int64_t>(values.size()))) {
         for (auto const value : values)
-            if (roundTrip(value) != value) return state.SkipWithError("a value came back as another");
+            if (round_trip(value) != value) return state.SkipWithError("a value came back as another");
     }
 }
-
-BENCHMARK_CAPTURE(Measure, Numeral, [](long long value) {
-    return ReadAsciiSignedDecimalNumeral64(MakeAsciiSignedDecimalNumeral64(value, 1));
-});
-
-BENCHMARK_CAPTURE(Measure, HexNumeral, [](long long value) {
-    auto const numeral = MakeAsciiHexNumeral64(static_cast<unsigned long long>(value), 1);
-    return static_cast<long long>(ReadAsciiHexNumeral64(numeral));
-});
 
 BENCHMARK_CAPTURE(Measure, Duration, [](long long value) {
     return XMLDurationToTimeInterval(TimeIntervalToXMLDuration(TimeInterval(value))).Microseconds();

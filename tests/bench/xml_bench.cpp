@@ -1,4 +1,4 @@
-// The parser, the tree and the writer against expat and pugixml, on the same documents in the same run.
+// The parser and the tree against expat and pugixml, on the same documents in the same run.
 
 #include <benchmark/benchmark.h>
 #include <expat.h>
@@ -8,10 +8,8 @@
 #include <map>
 #include <pugixml.hpp>
 
-#include "foundation/text/ustring_builder.h"
 #include "xml/simple_xml.h"
 #include "xml/simple_xml_parser_pl.h"
-#include "xml/xml_writer.h"
 
 // The heap that a piece of work takes at its peak, over what was in use before it: of all that allocates, as the
 // allocator rounds the blocks.
@@ -43,30 +41,28 @@ void free(void* block) noexcept {
 
 namespace {
 
-// A document: the unit over and over, then as many endings.
+// A document: the unit over and over.
 struct Kind {
-    std::string_view head, unit, ending, tail;
+    std::string_view head, unit, tail;
     std::string Document(std::int64_t size) const {
-        auto const count = (static_cast<std::size_t>(size) - head.size() - tail.size()) / (unit.size() + ending.size());
+        auto const count = (static_cast<std::size_t>(size) - head.size() - tail.size()) / unit.size();
         std::string document(head);
         for (std::size_t i = 0; i < count; ++i) document += unit;
-        for (std::size_t i = 0; i < count; ++i) document += ending;
         return document.append(tail);
     }
 };
 
-// Small elements with attributes and text; lines in one element; levels that end, and that do not.
+// Small elements with attributes and text; lines in one element; levels that do not end.
 constexpr Kind Elements{"<Actions>\n", R"(	<Action id="100042" state="pending" site="actionsite">
 		<Title>Install update 100042</Title>
 		<Description lang="en">Fixes &lt;100042&gt; and asks for a restart.</Description>
 		<ForceRun>false</ForceRun>
 	</Action>
 )",
-                        "", "</Actions>\n"};
+                        "</Actions>\n"};
 constexpr Kind Base64{"<Content>\n", "/9j4AAQSkZJRgABAQEASABIAAD+2wBDAAYEBQYFBAYGBQYHBwYIChAKCgkJChQODwwQFxQYGBcU\n",
-                      "", "</Content>\n"};
-constexpr Kind Nested{"", "<a>", "</a>", ""};
-constexpr Kind Opening{"", "<a>", "", ""};
+                      "</Content>\n"};
+constexpr Kind Opening{"", "<a>", ""};
 
 // Takes every event and does next to nothing with it.
 struct Counter : XMLHandler {
@@ -159,8 +155,6 @@ BENCHMARK_TEMPLATE(Read, OwnEvents, Elements)->Apply(Sizes);
 BENCHMARK_TEMPLATE(Read, ExpatEvents, Elements)->Apply(Sizes);
 BENCHMARK_TEMPLATE(Read, OwnEvents, Base64)->Apply(Sizes);
 BENCHMARK_TEMPLATE(Read, ExpatEvents, Base64)->Apply(Sizes);
-BENCHMARK_TEMPLATE(Read, OwnEvents, Nested)->Apply(Sizes);
-BENCHMARK_TEMPLATE(Read, ExpatEvents, Nested)->Apply(Sizes);
 BENCHMARK_TEMPLATE(Read, OwnEvents, Opening)->Apply(Sizes);
 BENCHMARK_TEMPLATE(Read, OwnTree, Elements)->Apply(Sizes);
 BENCHMARK_TEMPLATE(Read, ExpatTree, Elements)->Apply(Sizes);
@@ -169,30 +163,5 @@ BENCHMARK_TEMPLATE(Read, OwnTree, Base64)->Apply(Sizes);
 BENCHMARK_TEMPLATE(Read, ExpatTree, Base64)->Apply(Sizes);
 BENCHMARK_TEMPLATE(Read, PugiTree, Base64)->Apply(Sizes);
 BENCHMARK_TEMPLATE(Read, OwnTree, Opening)->Apply(Sizes);
-
-void WriteOwn(benchmark::State& state) {
-    auto const tree = SimpleXML::Parse(UStringRef<UTF8>(Elements.Document(state.range(0))));
-    for (auto _ : state) {
-        UStringBuilder<UTF8> builder;
-        XMLWriter(builder, XMLFormatStyle::Indented).WriteXMLElement(*tree);
-        benchmark::DoNotOptimize(builder.size());
-    }
-}
-BENCHMARK(WriteOwn)->Apply(Sizes);
-
-void WritePugi(benchmark::State& state) {
-    struct Collector : pugi::xml_writer {
-        void write(void const* data, std::size_t size) override { text.append(static_cast<char const*>(data), size); }
-        std::string text;
-    };
-    pugi::xml_document tree;
-    tree.load_string(Elements.Document(state.range(0)).c_str());
-    for (auto _ : state) {
-        Collector collector;
-        tree.save(collector);
-        benchmark::DoNotOptimize(collector.text.size());
-    }
-}
-BENCHMARK(WritePugi)->Apply(Sizes);
 
 }  // namespace

@@ -7,7 +7,7 @@ TEST_F(ExampleConversation, RunsAsDocumented) {
     ASSERT_FALSE(steps.empty());
     Prepare();
     for (auto const& step : steps) {
-        auto const name = step.filename().string(), text = Read(step);
+        auto const name = step.filename().string(), text = tools::ReadFile(step);
         SCOPED_TRACE(name);
         if (name.find("-client-") != name.npos) {
             // With a directory of the test's own in place of the example's.

@@ -40,7 +40,7 @@ TEST_F(Hostile, TwoMebibytesOfMarkupLoseNothing) {
     int id = 0;
     for (auto unit : {"<a>", "<>", "&", "<", "<a b=\"", "&#x", "<![CDATA[", "</a>", "\xff"}) {
         Play("request title=Accepted id=" + std::to_string(++id));
-        Program().SendFrame(Repeated(unit, largest_payload));
+        Program().SendFrame(Repeated(unit, kLargestPayload));
         Settle();
     }
     Play("wait window ActionRequestDialog\nclick form.takeAllActions");

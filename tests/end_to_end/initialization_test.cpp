@@ -37,8 +37,8 @@ TEST_F(Initialization, EmptiesTheBaseDirectoryAndFillsIt) {
     Play("expect ActionTaken ID=1");
     EXPECT_EQ(FilesIn(BaseDirectory()), (std::set{BaseDirectory() / "_brand.xlat", BaseDirectory() / "empty.txt",
                                                   BaseDirectory() / "page.html"}));
-    EXPECT_EQ(Read(BaseDirectory() / "page.html"), "<p>second</p>");
-    EXPECT_EQ(Read(Directory() / "outside" / "kept.txt"), "kept");
+    EXPECT_EQ(tools::ReadFile(BaseDirectory() / "page.html"), "<p>second</p>");
+    EXPECT_EQ(tools::ReadFile(Directory() / "outside" / "kept.txt"), "kept");
 }
 
 TEST_F(Initialization, RequestsBeforeItAndBesideItAreShown) {
@@ -77,27 +77,23 @@ TEST_P(FailingInitialization, IsFollowedByOneThatSucceeds) {
         return std::filesystem::exists(BaseDirectory() / "a.txt");
     }));
     Play("request id=1 title=One force deadline=-1h\nexpect ActionTaken ID=1");
-    EXPECT_EQ(Read(Directory() / "full" / "old.txt"), "old");
-    EXPECT_EQ(Read(Directory() / "file"), "in the way");
-    EXPECT_EQ(Read(Directory() / "half" / "a"), GetParam().first == std::string("HalfDone") ? "a" : "");
+    EXPECT_EQ(tools::ReadFile(Directory() / "full" / "old.txt"), "old");
+    EXPECT_EQ(tools::ReadFile(Directory() / "file"), "in the way");
+    EXPECT_EQ(std::filesystem::exists(Directory() / "half" / "a"), GetParam().first == std::string("HalfDone"));
 }
 
-std::string const in_full = "<BaseDirectory>~/full</BaseDirectory>";
-std::string const one_then_none = tools::SupportFile("a", "a") + tools::SupportFile(std::string(256, 'b'), "b");
+std::string const kInFull = "<BaseDirectory>~/full</BaseDirectory>";
+std::string const kOneThenNone = tools::SupportFile("a", "a") + tools::SupportFile(std::string(256, 'b'), "b");
 
 INSTANTIATE_TEST_SUITE_P(
     All, FailingInitialization,
     ::testing::Values(Failure("NoBase", ""), Failure("EmptyBase", "<BaseDirectory></BaseDirectory>"),
                       Failure("RelativeBase", "<BaseDirectory>full</BaseDirectory>"),
                       Failure("FileInTheWay", "<BaseDirectory>~/file/below</BaseDirectory>"),
-                      Failure("HalfDone", "<BaseDirectory>~/half</BaseDirectory>" + one_then_none),
-                      Failure("NameLeadsOut", in_full + tools::SupportFile("../file", "over it")),
-                      Failure("NameIsParent", in_full + tools::SupportFile("..", "over it")),
-                      Failure("NameIsEmpty", in_full + tools::SupportFile("", "x")),
-                      Failure("NameIsItself", in_full + tools::SupportFile(".", "x")),
-                      Failure("NameIsCut", in_full + "<SupportFiles><FileName>a&#x0;b</FileName></SupportFiles>"),
+                      Failure("HalfDone", "<BaseDirectory>~/half</BaseDirectory>" + kOneThenNone),
+                      Failure("NameLeadsOut", kInFull + tools::SupportFile("../file", "over it")),
                       Failure("NoDuration",
-                              in_full + tools::Element("InitialUISettings", "<RemindInterval>soon</RemindInterval>"))),
+                              kInFull + tools::Element("InitialUISettings", "<RemindInterval>soon</RemindInterval>"))),
     [](auto const& of) { return of.param.first; });
 
 struct LocaleCase {
@@ -127,7 +123,6 @@ INSTANTIATE_TEST_SUITE_P(
         LocaleCase{"LocaleNotWanted", "de_DE.UTF-8", "locale=no", {"de.xlat", "_brandde.xlat"}, "Action Requests"},
         LocaleCase{"BrandForTheLanguage", "de_DE.UTF-8", "locale", {"_brand.xlat", "_brandde.xlat"}, "_brandde.xlat"},
         LocaleCase{"GeneralOverBrand", "de_DE.UTF-8", "locale", {"de.xlat", "_brandde_DE.xlat"}, "de.xlat"},
-        LocaleCase{"FullNameOverLanguage", "de_DE.UTF-8", "locale", {"de.xlat", "de_DE.xlat"}, "de_DE.xlat"},
         LocaleCase{"NameIgnoresCase", "fr_CA.ISO-8859-1", "locale", {"fr.xlat", "FR_ca.XLAT"}, "FR_ca.XLAT été"},
         LocaleCase{"UnknownToXlib", "de_XX.UTF-8", "locale", {"de.xlat", "_brand.xlat"}, "Action Requests"}),
     [](auto const& of) { return of.param.name; });

@@ -16,7 +16,7 @@ class Scenario : public ProgramTest, public ::testing::WithParamInterface<std::f
 TEST_P(Scenario, GoesAsItIsTold) {
     Display().StartWindowManager();
     Prepare();
-    Play(Read(GetParam()));
+    Play(tools::ReadFile(GetParam()));
 }
 
 INSTANTIATE_TEST_SUITE_P(All, Scenario, ::testing::ValuesIn(Scenario::All()), Scenario::Name);

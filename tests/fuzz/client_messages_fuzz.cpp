@@ -1,6 +1,8 @@
-// Any document becomes requests of every kind or is refused; of an action can be told what it involves.
+// Any document becomes messages of every kind or is refused; of an action can be told what it involves, and of an
+// initialization which translation fits.
 #include "localisation/action_summary.h"
 #include "messages/client_requests.h"
+#include "messages/initialization_info.h"
 #include "tests/fuzz/fuzz.h"
 #include "xml/simple_xml.h"
 
@@ -9,10 +11,14 @@ static void Check(XMLElement const& element) {
     MessageRequest message;
     QuietModeStart period;
     RemoveRequest removal;
+    InitializationInfo info;
     if (Succeeds([&] { XMLSerialize(element, action); })) ActionSummary(action);
     if (Succeeds([&] { XMLSerialize(element, period); })) Require(period.start_time.Valid() && period.end_time.Valid());
     Succeeds([&] { XMLSerialize(element, message); });
     Succeeds([&] { XMLLoad(element, removal); });
+    Succeeds([&] { XMLSerialize(element, info); });
+    for (FileTransfer const& file : info.SupportFiles())
+        Succeeds([&] { info.GeneralLocalization(file.SubFolder(), file.Name()); });
 }
 
 void Fuzz(std::string_view input) {

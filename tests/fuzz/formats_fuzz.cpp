@@ -4,17 +4,15 @@
 
 void Fuzz(std::string_view input) {
     auto const key = TakeUntil(input, '\n'), text = TakeUntil(input, '\n'), first = TakeUntil(input, '\n');
-    FormatPlusArguments<0> const none{Text(key), Text(text)};
-    FormatPlusArguments const one(none, Text(first));
-    FormatPlusArguments const two(one, Text(input));
-    Succeeds([&] { MakeUString(none); });
-    Succeeds([&] { MakeUString(one); });
-    Succeeds([&] { MakeUString(two); });
+    FormatPlusArguments<0> const format{Text(key), Text(text)};
+    Succeeds([&] { MakeUString(format); });
+    Succeeds([&] { MakeUString(format.With(Text(first))); });
+    Succeeds([&] { MakeUString(format.With(Text(first), Text(input))); });
 
     std::string escaped = "{b}";
     for (char byte : input) escaped += byte == '{' ? "{_obrace}" : std::string(1, byte);
     escaped += "{a}";
     FormatPlusArguments<0> const plain{"{b} {a}", Text(escaped)};
-    auto const rendered = MakeUString(FormatPlusArguments(FormatPlusArguments(plain, Text(key)), Text(text)));
+    auto const rendered = MakeUString(plain.With(Text(key), Text(text)));
     Require(rendered.AsStringView() == std::string(key).append(input).append(text));
 }

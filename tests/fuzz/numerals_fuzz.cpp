@@ -1,24 +1,35 @@
-// Numerals are read as the standard library reads them, but for the plus sign.
+// Digits are a numeral if their number is in range, nothing else is, and what is written reads back.
 #include <charconv>
 
 #include "foundation/text/numerals.h"
 #include "tests/fuzz/fuzz.h"
 
-template <class T>
-static void Check(std::string_view text, int base, NumeralResult (*read)(ConstData, T&)) {
-    T value = 0, right = 0;
-    auto const got = read(text, value);
-    if (std::is_signed_v<T> && text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
-    auto const [stop, error] = std::from_chars(text.begin(), text.end(), right, base);
-    if (error == std::errc::invalid_argument || stop != text.end()) return Require(got != NumeralResult::Success);
-    Require(error == std::errc() ? got == NumeralResult::Success && value == right : got == NumeralResult::TooLarge);
+// Whether a text is digits without leading zeros whose number is at most `greatest`, told without arithmetic.
+static bool IsAtMost(std::string_view text, std::string_view greatest) {
+    if (text.empty() || text.find_first_not_of("0123456789") != text.npos) return false;
+    return text.size() != greatest.size() ? text.size() < greatest.size() : text <= greatest;
+}
+
+static void CheckRead(std::string_view text) {
+    unsigned long long value;
+    bool const reads = TryReadAsciiDecimalNumeral(text, value) == NumeralResult::Success;
+    while (text.size() > 1 && text[0] == '0') text.remove_prefix(1);
+    Require(reads == IsAtMost(text, "18446744073709551615"));
+    Require(!reads || MakeAsciiDecimalNumeral64(value, 1).AsStringView() == text);
+}
+
+static void CheckWritten(std::string_view input) {
+    auto const base = 2 + TakeInteger<unsigned char>(input) % 35u, digits = TakeInteger<unsigned char>(input) % 16u + 1;
+    auto const value = TakeInteger<long long>(input);
+    auto const bits = static_cast<unsigned long long>(value);
+    char text[65];
+    std::string_view const expected(text, std::to_chars(text, std::end(text), value, static_cast<int>(base)).ptr);
+    Require(static_cast<ConstData>(Numeral(value, base)).AsStringView() == expected);
+    Require(ReadAsciiSignedDecimalNumeral64(MakeAsciiSignedDecimalNumeral64(value, digits)) == value);
+    Require(ReadAsciiHexNumeral64(MakeAsciiHexNumeral64(bits, digits)) == bits);
 }
 
 void Fuzz(std::string_view input) {
-    Check<unsigned long long>(input, 10, TryReadAsciiDecimalNumeral);
-    Check<unsigned int>(input, 10, TryReadAsciiDecimalNumeral);
-    Check<long long>(input, 10, TryReadAsciiDecimalNumeral);
-    Check<int>(input, 10, TryReadAsciiDecimalNumeral);
-    Check<unsigned long long>(input, 16, TryReadAsciiHexNumeral);
-    Check<unsigned int>(input, 16, TryReadAsciiHexNumeral);
+    CheckRead(input);
+    CheckWritten(input);
 }

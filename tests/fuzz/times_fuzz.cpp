@@ -1,10 +1,22 @@
-// What reads as a time writes and reads back to the field, and so does every instant.
+// What reads as a time, a date or a duration writes and reads back to the field, and so does every instant and interval.
 #include "foundation/time/text_to_time.h"
 #include "foundation/time/time_to_text.h"
 #include "messages/xml_date_time.h"
+#include "messages/xml_duration.h"
 #include "tests/fuzz/fuzz.h"
 
+static void FuzzDateAndDuration(std::string_view input) {
+    DateRecord date;
+    if (Succeeds([&] { date = XMLDateToDateRecord(Text(input)); }))
+        Require(DateRecordToXMLDate(date).AsStringView() == input);
+    TimeInterval interval;
+    if (!Succeeds([&] { interval = XMLDurationToTimeInterval(Text(input)); }))
+        interval = TimeInterval(TakeInteger<long long>(input));
+    Require(XMLDurationToTimeInterval(TimeIntervalToXMLDuration(interval)) == interval);
+}
+
 void Fuzz(std::string_view input) {
+    FuzzDateAndDuration(input);
     TimeObject time;
     Instant instant;
     bool const is_time = Succeeds([&] { time = TextToTime(Text(input)); });

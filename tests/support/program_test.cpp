@@ -1,20 +1,5 @@
 #include "tests/support/program_test.h"
 
-#include <stdlib.h>
-
-#include <fstream>
-
-ProgramTest::ProgramTest() {
-    std::string name = (std::filesystem::temp_directory_path() / "xqenclientui.XXXXXX").string();
-    directory_ = mkdtemp(name.data());
-}
-
-ProgramTest::~ProgramTest() {
-    player_.reset();
-    std::error_code ignored;
-    std::filesystem::remove_all(directory_, ignored);
-}
-
 void ProgramTest::Prepare(Environment const& changes, std::vector<std::string> const& arguments) {
     Environment environment = changes;
     environment.insert({{"DISPLAY", display_.Name()}, {"LC_ALL", "C"}, {"LANGUAGE", std::nullopt}});
@@ -61,9 +46,4 @@ std::string ProgramTest::Replaced(std::string text, std::string_view part, std::
 
 std::set<std::filesystem::path> ProgramTest::FilesIn(std::filesystem::path const& directory) {
     return {std::filesystem::directory_iterator(directory), std::filesystem::directory_iterator()};
-}
-
-std::string ProgramTest::Read(std::filesystem::path const& file) {
-    std::ifstream stream(file);
-    return {std::istreambuf_iterator<char>(stream), {}};
 }

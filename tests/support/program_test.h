@@ -9,6 +9,7 @@
 #include <string>
 #include <string_view>
 
+#include "tools/files.h"
 #include "tools/scenario_player.h"
 #include "tools/virtual_display.h"
 
@@ -19,9 +20,6 @@
 // for, and must end as `ending_` says.
 class ProgramTest : public ::testing::Test {
   protected:
-    ProgramTest();
-    ~ProgramTest() override;
-
     using Environment = std::map<std::string, std::optional<std::string>>;
 
     // Plays lines; starts the program first, with nothing changed, unless that is done or prepared.
@@ -43,25 +41,23 @@ class ProgramTest : public ::testing::Test {
     }
     // The next answer to the byte; throws when there is none.
     std::string Receive() { return player_->Receive(std::chrono::seconds(10)); }
-    std::filesystem::path const& Directory() const { return directory_; }
+    std::filesystem::path const& Directory() const { return directory_.Path(); }
     // The one the program is told to use unless a case names another.
     std::filesystem::path BaseDirectory() const { return Directory() / "base"; }
 
     // The longest document that the program accepts, in bytes.
-    static constexpr size_t largest_payload = 2097152;
+    static constexpr size_t kLargestPayload = 2097152;
     // The unit over and over, as often as that size holds it.
     static std::string Repeated(std::string_view unit, size_t size);
     // The text with `by` in place of each `part`.
     static std::string Replaced(std::string text, std::string_view part, std::string_view by);
     // All that lies in a directory.
     static std::set<std::filesystem::path> FilesIn(std::filesystem::path const& directory);
-    // What a file holds; nothing for one that is not there.
-    static std::string Read(std::filesystem::path const& file);
 
     std::string ending_ = "exit 0";
 
   private:
-    std::filesystem::path directory_;
+    tools::TemporaryDirectory directory_;
     tools::VirtualDisplay display_;
     std::optional<tools::ScenarioPlayer> player_;
 };

@@ -1,7 +1,5 @@
-#include <array>
 #include <iostream>
 #include <map>
-#include <stdexcept>
 
 #include "tools/soak/subject.h"
 
@@ -9,81 +7,64 @@ namespace tools {
 
 namespace {
 
-Milliseconds const patience = std::chrono::seconds(30);
+constexpr Milliseconds kPatience = std::chrono::seconds(30);
 
 // Says it again and again, because the program may drop what comes along with something malformed.
 template <class Say>
-bool SayUntilItEnds(Subject& subject, Say say) {
-    subject.Client().Initialize();
-    return WaitUntil(patience, [&] {
+void SayUntilItEnds(Subject& subject, Say say) {
+    subject.client.Initialize();
+    WaitUntil(kPatience, [&] {
         say();
-        return subject.Client().Program().WaitForEnd(std::chrono::seconds(1)) != "running";
+        return subject.client.Program().WaitForEnd(std::chrono::seconds(1)) != "running";
     });
 }
 
-bool ClientCloses(Subject& subject) {
-    subject.Client().Program().CloseReceiving();
-    subject.Client().Program().CloseSending();
-    return true;
-}
-bool ClientStopsSending(Subject& subject) {
-    subject.Client().Program().CloseSending();
-    return true;
-}
-bool ClientStopsReading(Subject& subject) {
-    subject.Client().Program().CloseReceiving();
-    return SayUntilItEnds(subject, [&] { subject.Client().SendOverdue(); });
-}
-bool ClientSendsTooMuch(Subject& subject) {
-    return subject.Client().Program().SendBytes("\xff\xff\xff\xff");
-}
-bool NothingCanBeShown(Subject& subject) {
-    return SayUntilItEnds(subject, [&] { subject.Client().SendUnshowable(); });
-}
-bool ServerDies(Subject& subject) {
-    bool const was_there = subject.User().SeesProgram();
-    subject.Display().Kill();
-    return was_there;
-}
-bool ConnectionIsKilled(Subject& subject) {
-    bool const was_there = subject.User().SeesProgram();
-    subject.User().KillTheConnection();
-    return was_there;
-}
-bool UserCloses(Subject& subject) {
-    subject.User().CloseAWindow();
-    return false;
-}
-bool WindowIsDestroyed(Subject& subject) {
-    subject.User().DestroyAWindow();
-    subject.Live(std::chrono::seconds(2));
-    return false;
-}
+// Whether the program must end by this alone; where it need not, its client closes afterwards.
+enum class Ends { Surely, IfOnDisplay, Perhaps };
 
 struct Ending {
     char const* name;
-    // Answers whether the program must end by this alone; where it need not, its client closes afterwards.
-    bool (*bring_about)(Subject&);
+    Ends ends;
+    void (*bring_about)(Subject&);
     // Whether the program may end with 255: without a display, or by a protocol error.
     bool may_fail = false;
 };
 
-std::array const endings = {Ending{"client closes", ClientCloses},
-                            Ending{"client stops sending", ClientStopsSending},
-                            Ending{"client stops reading", ClientStopsReading},
-                            Ending{"client sends too much", ClientSendsTooMuch},
-                            Ending{"nothing can be shown", NothingCanBeShown},
-                            Ending{"server dies", ServerDies, true},
-                            Ending{"connection is killed", ConnectionIsKilled},
-                            Ending{"user closes a window", UserCloses},
-                            Ending{"window is destroyed", WindowIsDestroyed, true}};
+Ending const kEndings[] = {
+    {"client closes", Ends::Surely,
+     [](Subject& subject) {
+         subject.client.Program().CloseReceiving();
+         subject.client.Program().CloseSending();
+     }},
+    {"client stops sending", Ends::Surely, [](Subject& subject) { subject.client.Program().CloseSending(); }},
+    {"client stops reading", Ends::Surely,
+     [](Subject& subject) {
+         subject.client.Program().CloseReceiving();
+         SayUntilItEnds(subject, [&] { subject.client.SendOverdue(); });
+     }},
+    {"client sends too much", Ends::Surely,
+     [](Subject& subject) { subject.client.Program().SendBytes("\xff\xff\xff\xff"); }},
+    {"nothing can be shown", Ends::Surely,
+     [](Subject& subject) { SayUntilItEnds(subject, [&] { subject.client.SendUnshowable(); }); }},
+    {"server dies", Ends::IfOnDisplay, [](Subject& subject) { subject.display.Kill(); }, true},
+    {"connection is killed", Ends::IfOnDisplay, [](Subject& subject) { subject.user.KillTheConnection(); }},
+    {"user closes a window", Ends::Perhaps, [](Subject& subject) { subject.user.CloseAWindow(); }},
+    {"window is destroyed", Ends::Perhaps,
+     [](Subject& subject) {
+         subject.user.DestroyAWindow();
+         subject.Live(std::chrono::seconds(2));
+     },
+     true},
+};
 
 std::string Bring(Subject& subject, Ending const& ending) {
-    if (subject.Client().Roll(5) > 0) subject.Client().Initialize();
-    subject.Live(Milliseconds(subject.Client().Roll(subject.Client().Roll(2) ? 1500 : 6000)));
-    bool const alone = ending.bring_about(subject);
-    if (!alone && subject.WaitForEnd(std::chrono::seconds(4)) == "running") subject.Client().Program().CloseSending();
-    return subject.WaitForEnd(patience);
+    auto& client = subject.client;
+    if (client.dice.Roll(5) > 0) client.Initialize();
+    subject.Live(Milliseconds(client.dice.Roll(client.dice.Roll(2) ? 1500 : 6000)));
+    bool const alone = ending.ends == Ends::Surely || (ending.ends == Ends::IfOnDisplay && subject.user.SeesProgram());
+    ending.bring_about(subject);
+    if (!alone && subject.WaitForEnd(std::chrono::seconds(4)) == "running") client.Program().CloseSending();
+    return subject.WaitForEnd(kPatience);
 }
 
 std::string Bring(SoakOptions const& options, Ending const& ending) try {
@@ -99,7 +80,7 @@ bool EndManyTimes(SoakOptions options, int times) {
     std::map<std::string, int> outcomes;
     bool right = true;
     for (int i = 0; i < times; ++i, ++options.seed) {
-        Ending const& ending = endings[static_cast<size_t>(i) % endings.size()];
+        Ending const& ending = kEndings[static_cast<size_t>(i) % std::size(kEndings)];
         std::string const outcome = Bring(options, ending);
         ++outcomes[std::string(ending.name) + ": " + outcome];
         if (outcome == "exit 0" || (outcome == "exit 255" && ending.may_fail)) continue;

@@ -1,5 +1,11 @@
+#include <X11/Xlib.h>
+#include <X11/extensions/XRes.h>
+
 #include <algorithm>
+#include <filesystem>
+#include <fstream>
 #include <iostream>
+#include <map>
 #include <stdexcept>
 #include <vector>
 
@@ -8,6 +14,47 @@
 namespace tools {
 
 namespace {
+
+// What a program holds at one moment, by name: its memory in KiB ("RSS KiB"), that of its pixmaps in the X server
+// ("pixmap KiB"), and counts: "descriptors", "threads", and one for each type of resource in the X server, as "WINDOW".
+// What cannot be asked for is left out.
+using Resources = std::map<std::string, long>;
+
+// The number in a line of /proc/PID/status, as in "Threads: 3"; see proc(5).
+long StatusOf(pid_t pid, std::string const& name) {
+    std::ifstream status("/proc/" + std::to_string(pid) + "/status");
+    for (std::string line; std::getline(status, line);) {
+        if (line.starts_with(name + ":")) return std::stol(line.substr(name.size() + 1));
+    }
+    return 0;
+}
+
+long CountDescriptors(pid_t pid) {
+    std::error_code gone;
+    std::filesystem::directory_iterator const open("/proc/" + std::to_string(pid) + "/fd", gone);
+    return std::distance(begin(open), end(open));
+}
+
+// `window` is any window of the program's.
+void AddServerResources(Display* display, Window window, Resources& resources) {
+    int count = 0;
+    XResType* types = nullptr;
+    unsigned long bytes = 0;
+    if (!XResQueryClientResources(display, window, &count, &types)) return;
+    for (int i = 0; i < count; ++i) resources[AtomName(display, types[i].resource_type)] = types[i].count;
+    XFree(types);
+    if (XResQueryClientPixmapBytes(display, window, &bytes)) resources["pixmap KiB"] = static_cast<long>(bytes / 1024);
+}
+
+Resources ResourcesOf(Subject& subject) {
+    pid_t const pid = subject.client.Program().Pid();
+    DisplayDriver& screen = subject.user.Screen();
+    Resources resources{{"RSS KiB", StatusOf(pid, "VmRSS")},
+                        {"threads", StatusOf(pid, "Threads")},
+                        {"descriptors", CountDescriptors(pid)}};
+    AddServerResources(screen.Connection(), screen.FindHiddenWindow(), resources);
+    return resources;
+}
 
 // The greatest of each in the samples from `begin` to `end`.
 Resources Greatest(std::vector<Resources> const& samples, size_t begin, size_t end) {
@@ -39,10 +86,10 @@ bool StoppedGrowing(std::vector<Resources> const& samples) {
 
 // With nothing to decide, and with no dialog on the screen if clicks can bring that about.
 Resources SampleAtRest(Subject& subject) {
-    subject.Client().Settle();
-    for (int left = 200; left > 0 && subject.User().SeesDialogs(); --left) subject.User().ClickAnywhere();
-    subject.Client().Settle();
-    return subject.User().ResourcesOf(subject.Client().Program().Pid());
+    subject.client.Settle();
+    for (int left = 200; left > 0 && subject.user.SeesDialogs(); --left) subject.user.ClickAnywhere();
+    subject.client.Settle();
+    return ResourcesOf(subject);
 }
 
 void Print(Resources const& resources) {
@@ -54,17 +101,17 @@ void Print(Resources const& resources) {
 
 bool RunForLong(SoakOptions const& options, int minutes) {
     Subject subject(options);
-    subject.Client().Initialize();
-    bool const there = WaitUntil(std::chrono::seconds(20), [&] { return subject.User().SeesProgram(); });
+    subject.client.Initialize();
+    bool const there = WaitUntil(std::chrono::seconds(20), [&] { return subject.user.SeesProgram(); });
     if (!there) throw std::runtime_error("the program does not come to the display");
     std::vector<Resources> samples;
     for (int minute = 1; minute <= minutes; ++minute) {
         subject.Live(std::chrono::minutes(1));
         samples.push_back(SampleAtRest(subject));
-        std::cout << minute << " min, " << subject.Client().Figures() << ':';
+        std::cout << minute << " min, " << subject.client.Figures() << ':';
         Print(samples.back());
     }
-    subject.Client().Program().CloseSending();
+    subject.client.Program().CloseSending();
     std::string const ending = subject.WaitForEnd(std::chrono::seconds(30));
     bool const stopped = StoppedGrowing(samples);
     std::cout << "The long run: " << ending << ", " << (stopped ? "flat" : "NOT flat") << " after warming up\n";

@@ -1,13 +1,10 @@
 #pragma once
 
-#include <iterator>
-#include <random>
 #include <set>
 #include <string>
 
 #include "tools/client_process.h"
-#include "tools/scenario_line.h"
-#include "tools/waiting.h"
+#include "tools/soak/dice.h"
 
 namespace tools {
 
@@ -34,19 +31,15 @@ class RandomClient {
     void TakeAnswers();
 
     ClientProcess& Program() { return program_; }
-    // Not negative, below `limit`.
-    int Roll(int limit) { return std::uniform_int_distribution(0, limit - 1)(random_); }
     // The messages sent and the answers received so far.
     std::string Figures() const;
+
+    // What all its choices come from.
+    Dice dice;
 
   private:
     using ID = unsigned long;
 
-    bool Chance(int percent) { return Roll(100) < percent; }
-    template <class Choices>
-    auto const& AnyOf(Choices const& choices) {
-        return *std::next(std::begin(choices), Roll(static_cast<int>(std::size(choices))));
-    }
     // Whether the program reads everything that is sent now.
     bool EachCounts() const;
     void Send(std::string const& document);
@@ -59,7 +52,6 @@ class RandomClient {
     std::string Text();
     void CheckAnswer(std::string const& document);
 
-    std::mt19937 random_;
     std::string base_directory_;
     ClientProcess program_;
     ID last_id_ = 0;

@@ -1,26 +1,33 @@
 #include "tools/soak/random_user.h"
 
-#include <X11/extensions/XTest.h>
-
-#include <stdexcept>
+#include <X11/extensions/XRes.h>
 
 namespace tools {
 
-RandomUser::RandomUser(std::string const& display, unsigned seed)
-    : driver_(display), display_(XOpenDisplay(display.c_str())), random_(seed) {
-    if (!display_) throw std::runtime_error("cannot open the display " + display);
-    IgnoreErrors(display_.get());
+namespace {
+
+// The bits of an X resource's number that say which it is of its program's; the others say whose.
+XID BitsWithinProgram(Display* display) {
+    int count = 0;
+    XResClient* clients = nullptr;
+    XResQueryClients(display, &count, &clients);
+    XID const mask = count > 0 ? clients[0].resource_mask : 0;
+    XFree(clients);
+    return mask;
 }
+
+}  // namespace
 
 RandomUser::Windows RandomUser::Look() {
     Windows windows;
-    XID const owner = Hidden() & ~BitsWithinProgram(display_.get());
-    std::vector<std::pair<Window, bool>> open{{DefaultRootWindow(display_.get()), false}};
+    Display* const display = driver_.Connection();
+    XID const owner = driver_.FindHiddenWindow() & ~BitsWithinProgram(display);
+    std::vector<std::pair<Window, bool>> open{{DefaultRootWindow(display), false}};
     while (owner != None && !open.empty()) {
         auto const [window, inside] = open.back();
         open.pop_back();
-        bool const own = (window & owner) == owner && IsOnScreen(display_.get(), window);
-        auto const children = ChildrenOf(display_.get(), window);
+        bool const own = (window & owner) == owner && IsOnScreen(display, window);
+        auto const children = ChildrenOf(display, window);
         if (own && !inside) windows.shells.push_back(window);
         if (own && children.empty()) windows.innermost.push_back(window);
         for (Window child : children) open.emplace_back(child, own);
@@ -28,23 +35,15 @@ RandomUser::Windows RandomUser::Look() {
     return windows;
 }
 
-Window RandomUser::AnyOf(std::vector<Window> const& windows) {
-    return windows.empty() ? None : windows[static_cast<size_t>(Roll(static_cast<int>(windows.size())))];
-}
-
 void RandomUser::DoAnything() {
-    if (Roll(20) == 0) driver_.SendText(Hidden(), "open");
+    if (dice_.Roll(20) == 0 && SeesProgram()) driver_.SendOpen();
     ClickAnywhere();
 }
 
 void RandomUser::ClickAnywhere() {
-    Area const area = VisibleArea(display_.get(), AnyOf(Look().innermost));
+    Area const area = VisibleArea(driver_.Connection(), AnyOf(Look().innermost));
     if (area.width <= 0 || area.height <= 0) return;
-    int const x = area.x + Roll(area.width), y = area.y + Roll(area.height);
-    XTestFakeMotionEvent(display_.get(), DefaultScreen(display_.get()), x, y, CurrentTime);
-    XTestFakeButtonEvent(display_.get(), Button1, True, CurrentTime);
-    XTestFakeButtonEvent(display_.get(), Button1, False, CurrentTime);
-    XFlush(display_.get());
+    driver_.PressAt(area.x + dice_.Roll(area.width), area.y + dice_.Roll(area.height));
 }
 
 void RandomUser::CloseAWindow() {
@@ -52,13 +51,11 @@ void RandomUser::CloseAWindow() {
 }
 
 void RandomUser::DestroyAWindow() {
-    if (Window const window = AnyOf(Look().innermost)) XDestroyWindow(display_.get(), window);
-    XFlush(display_.get());
+    if (Window const window = AnyOf(Look().innermost)) driver_.Destroy(window);
 }
 
 void RandomUser::KillTheConnection() {
-    if (Window const window = Hidden()) XKillClient(display_.get(), window);
-    XFlush(display_.get());
+    if (Window const window = driver_.FindHiddenWindow()) driver_.KillOwner(window);
 }
 
 }  // namespace tools

@@ -1,12 +1,10 @@
 #pragma once
 
-#include <memory>
-#include <random>
 #include <string>
 #include <vector>
 
 #include "tools/display_driver.h"
-#include "tools/soak/resources.h"
+#include "tools/soak/dice.h"
 
 namespace tools {
 
@@ -15,10 +13,11 @@ namespace tools {
 // Each function does nothing while there is no window for it.
 class RandomUser {
   public:
-    RandomUser(std::string const& display, unsigned seed);
+    RandomUser(std::string const& display, unsigned seed) : driver_(display), dice_(seed) {}
 
+    DisplayDriver& Screen() { return driver_; }
     // Whether the program has come to the display, its windows shown or not.
-    bool SeesProgram() { return Hidden() != None; }
+    bool SeesProgram() { return driver_.FindHiddenWindow() != None; }
     bool SeesDialogs() { return !Look().shells.empty(); }
     void ClickAnywhere();
     // A click, or what another program sends to bring the action requests up.
@@ -30,26 +29,18 @@ class RandomUser {
     void DestroyAWindow();
     void KillTheConnection();
 
-    Resources ResourcesOf(pid_t pid) { return tools::ResourcesOf(pid, display_.get(), Hidden()); }
-
   private:
-    struct Closer {
-        void operator()(Display* display) const { XCloseDisplay(display); }
-    };
     struct Windows {
         std::vector<Window> shells, innermost;
     };
 
-    Window Hidden() { return driver_.FindWindow("QENClientUIHiddenWindow"); }
     // Those of the program that are on the screen.
     Windows Look();
     // 0 of none.
-    Window AnyOf(std::vector<Window> const& windows);
-    int Roll(int limit) { return std::uniform_int_distribution(0, limit - 1)(random_); }
+    Window AnyOf(std::vector<Window> const& windows) { return windows.empty() ? None : dice_.AnyOf(windows); }
 
     DisplayDriver driver_;
-    std::unique_ptr<Display, Closer> display_;
-    std::mt19937 random_;
+    Dice dice_;
 };
 
 }  // namespace tools

@@ -1,13 +1,14 @@
 // Runs the program for long with a client and a user who do anything, and ends it at any moment in any way.
+#include <getopt.h>
+
 #include <iostream>
 #include <optional>
-#include <vector>
 
 #include "tools/soak/subject.h"
 
 namespace {
 
-char const* const usage = "usage: soak [--minutes N] [--endings N] [--seed N] [--window-manager] PROGRAM\n";
+constexpr char const* kUsage = "usage: soak [--minutes N] [--endings N] [--seed N] [--window-manager] PROGRAM\n";
 
 struct CommandLine {
     tools::SoakOptions options;
@@ -15,22 +16,22 @@ struct CommandLine {
     int endings = 0;
 };
 
-std::optional<CommandLine> Read(std::vector<std::string> const& arguments) try {
+std::optional<CommandLine> Read(int argc, char** argv) try {
+    static option const options[] = {{"minutes", required_argument, nullptr, 'm'},
+                                     {"endings", required_argument, nullptr, 'e'},
+                                     {"seed", required_argument, nullptr, 's'},
+                                     {"window-manager", no_argument, nullptr, 'w'},
+                                     {}};
     CommandLine line;
-    auto at = arguments.begin();
-    for (; at != arguments.end() && at->starts_with("--"); ++at) {
-        std::string const& name = *at;
-        if (name == "--window-manager") {
-            line.options.window_manager = true;
-            continue;
-        }
-        if (++at == arguments.end()) return std::nullopt;
-        if (name == "--minutes") line.minutes = std::stoi(*at);
-        if (name == "--endings") line.endings = std::stoi(*at);
-        if (name == "--seed") line.options.seed = static_cast<unsigned>(std::stoul(*at));
+    for (int option = 0; (option = getopt_long(argc, argv, "", options, nullptr)) != -1;) {
+        if (option == 'm') line.minutes = std::stoi(optarg);
+        if (option == 'e') line.endings = std::stoi(optarg);
+        if (option == 's') line.options.seed = static_cast<unsigned>(std::stoul(optarg));
+        if (option == 'w') line.options.window_manager = true;
+        if (option == '?') return std::nullopt;
     }
-    if (arguments.end() - at != 1) return std::nullopt;
-    line.options.program = *at;
+    if (argc - optind != 1) return std::nullopt;
+    line.options.program = argv[optind];
     return line;
 } catch (std::logic_error const&) {
     return std::nullopt;
@@ -39,9 +40,9 @@ std::optional<CommandLine> Read(std::vector<std::string> const& arguments) try {
 }  // namespace
 
 int main(int argc, char** argv) {
-    auto const line = Read({argv + 1, argv + argc});
+    auto const line = Read(argc, argv);
     if (!line) {
-        std::cerr << usage;
+        std::cerr << kUsage;
         return 2;
     }
     try {

@@ -1,19 +1,8 @@
 #include "tools/soak/subject.h"
 
-#include <stdlib.h>
-
-#include <filesystem>
-#include <stdexcept>
-
 namespace tools {
 
 namespace {
-
-std::string MakeDirectory() {
-    std::string name = (std::filesystem::temp_directory_path() / "soak.XXXXXX").string();
-    if (!mkdtemp(name.data())) throw std::runtime_error("no temporary directory");
-    return name;
-}
 
 // What AddressSanitizer keeps back of the freed memory is little here, so that growth is the program's own.
 Launch Prepare(SoakOptions const& options, VirtualDisplay& display) {
@@ -29,27 +18,20 @@ Launch Prepare(SoakOptions const& options, VirtualDisplay& display) {
 }  // namespace
 
 Subject::Subject(SoakOptions const& options)
-    : directory_(MakeDirectory()),
-      client_(Prepare(options, display_), directory_ + "/base", options.seed),
-      user_(display_.Name(), options.seed) {}
-
-Subject::~Subject() {
-    std::error_code ignored;
-    std::filesystem::remove_all(directory_, ignored);
-}
+    : client(Prepare(options, display), directory.Path() / "base", options.seed), user(display.Name(), options.seed) {}
 
 void Subject::Live(Milliseconds span) {
     auto const end = Clock::now() + span;
-    while (Clock::now() < end && client_.Program().WaitForEnd(Milliseconds(0)) == "running") {
-        if (client_.Roll(3) > 0) client_.SendAnything();
-        for (int left = client_.Roll(6); left > 0; --left) user_.DoAnything();
-        std::this_thread::sleep_for(Milliseconds(client_.Roll(200)));
+    while (Clock::now() < end && client.Program().WaitForEnd(Milliseconds(0)) == "running") {
+        if (client.dice.Roll(3) > 0) client.SendAnything();
+        for (int left = client.dice.Roll(6); left > 0; --left) user.DoAnything();
+        std::this_thread::sleep_for(Milliseconds(client.dice.Roll(200)));
     }
 }
 
 std::string Subject::WaitForEnd(Milliseconds limit) {
-    std::string const ending = client_.Program().WaitForEnd(limit);
-    client_.TakeAnswers();
+    std::string const ending = client.Program().WaitForEnd(limit);
+    client.TakeAnswers();
     return ending;
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <memory>
 #include <string>
 
+#include "tools/files.h"
 #include "tools/soak/random_client.h"
 #include "tools/soak/random_user.h"
 #include "tools/virtual_display.h"
@@ -16,25 +16,18 @@ struct SoakOptions {
 };
 
 // A running program with an X server, a client and a user of its own.
-class Subject {
-  public:
+struct Subject {
     explicit Subject(SoakOptions const& options);
-    ~Subject();
-
-    VirtualDisplay& Display() { return display_; }
-    RandomClient& Client() { return client_; }
-    RandomUser& User() { return user_; }
 
     // Client and user do anything for that long, or until the program ends.
     void Live(Milliseconds span);
     // As in "exit 0"; reads what the program still says.
     std::string WaitForEnd(Milliseconds limit);
 
-  private:
-    std::string directory_;
-    VirtualDisplay display_;
-    RandomClient client_;
-    RandomUser user_;
+    TemporaryDirectory directory;
+    VirtualDisplay display;
+    RandomClient client;
+    RandomUser user;
 };
 
 // Has client and user do anything for so many minutes. Each minute everything is withdrawn, and what the program then

@@ -5,7 +5,6 @@
 #include <unistd.h>
 
 #include <cstdlib>
-#include <utility>
 
 #include "core/process/process_state.h"
 
@@ -13,9 +12,9 @@ namespace {
 
 // The connection is cut at its socket: destroying the application context would close it properly, but is deferred
 // inside callbacks, comes back from inside the I/O error handler and never returns inside the protocol error handler.
-void CloseDisplay() {
-    app_context = nullptr;
-    if (Display* closing = std::exchange(display, nullptr)) shutdown(XConnectionNumber(closing), SHUT_RDWR);
+// Nothing here or behind it calls the X library, which could fail and begin the exit anew.
+void CutDisplayConnection() {
+    if (display) shutdown(XConnectionNumber(display), SHUT_RDWR);
 }
 
 // Whole seconds to their end, even if a signal interrupts.
@@ -26,11 +25,7 @@ void SleepSeconds(unsigned seconds) {
 }  // namespace
 
 void ExitCleanup(int status, char const*) {
-    static int first_status = status;
-    static bool under_way = false;
-    bool again = std::exchange(under_way, true);
-    if (!again) CloseDisplay();
+    CutDisplayConnection();
     SleepSeconds(2);
-    if (again) _exit(first_status);
     std::exit(status);
 }

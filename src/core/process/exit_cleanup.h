@@ -4,6 +4,5 @@
 // calls.
 //
 // The display connection goes first, so that every window vanishes at once; then two seconds pass, in which the pipe's
-// writer thread can send what is still queued. `reason` is a word for the reader of the code and is printed nowhere. A
-// second call while the first is under way does not start the exit again.
+// writer thread can send what is still queued. `reason` is a word for the reader of the code and is printed nowhere.
 [[noreturn]] void ExitCleanup(int status, char const* reason);

@@ -1,7 +1,5 @@
 #include "core/process/process_state.h"
 
-#include <algorithm>
-
 #include "channel/unix_pipe.h"
 #include "foundation/base/never_destroyed.h"
 
@@ -17,25 +15,19 @@ ActionRequest const* PendingActions::FindAction(unsigned long long id) const {
 
 void PendingActions::Erase(std::size_t position) {
     requests_.erase(begin() + static_cast<std::ptrdiff_t>(position));
-    if (position < take_all_cursor_) --take_all_cursor_;
-}
-
-void PendingActions::Erase(std::vector<bool> const& leaving) {
-    auto const cursor = leaving.begin() + static_cast<std::ptrdiff_t>(take_all_cursor_);
-    take_all_cursor_ -= static_cast<std::size_t>(std::count(leaving.begin(), cursor, true));
-    auto position = [this](ActionRequest const& request) { return static_cast<std::size_t>(&request - &requests_[0]); };
-    std::erase_if(requests_, [&](ActionRequest const& request) { return leaving[position(request)]; });
+    if (take_all_cursor_ && position < *take_all_cursor_) --*take_all_cursor_;
 }
 
 void PendingActions::Clear() {
     requests_.clear();
-    take_all_cursor_ = 0;
+    take_all_cursor_.reset();
 }
 
 UIMessageQueue& readQ = NeverDestroyed<UIMessageQueue>();
 UIMessageQueue& writeQ = NeverDestroyed<UIMessageQueue>();
 UnixPipe* client_pipe = nullptr;
 PendingActions& actions = NeverDestroyed<PendingActions>();
+std::optional<ActionRequest>& m_askedAbout = NeverDestroyed<std::optional<ActionRequest>>();
 FileLocation& m_baseDirectory = NeverDestroyed<FileLocation>();
 Instant m_postponedTo{0};
 TimeInterval m_remindInterval{0};

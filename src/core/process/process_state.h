@@ -1,7 +1,10 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
+#include <optional>
 #include <span>
+#include <utility>
 #include <vector>
 
 #include "channel/ui_message_queue.h"
@@ -11,8 +14,7 @@
 
 // The action requests that the client offers and the user has not yet answered, in arrival order. Main thread only.
 //
-// An ID may stand in it more than once; looking one up finds the first. Erasing keeps the cursor of a take-all in progress
-// in front of the same action, whatever is removed meanwhile and by whom.
+// An ID may stand in it more than once; looking one up finds the first.
 class PendingActions {
   public:
     using Iterator = std::vector<ActionRequest>::const_iterator;
@@ -30,35 +32,30 @@ class PendingActions {
     // All of them. Valid until the list changes.
     std::span<ActionRequest const> Requests() const { return requests_; }
 
-    void Append(ActionRequest const& request) { requests_.push_back(request); }
+    void Append(ActionRequest request) { requests_.push_back(std::move(request)); }
     void Erase(std::size_t position);
-    // Asks `leaves` about each request, in order, and erases those for which it answers true; the list must not change
-    // meanwhile. When an answer throws, those before it are erased all the same. Takes time linear in the list.
+    // Erases the requests for which `leaves` is true; it may be asked twice about each. Linear in the list.
     template <class Leaves>
     void EraseIf(Leaves leaves);
     void Clear();
 
-    // The first action that the take-all in progress has not yet come to; at most size().
-    std::size_t TakeAllCursor() const { return take_all_cursor_; }
-    void SetTakeAllCursor(std::size_t position) { take_all_cursor_ = position; }
+    // Where the take-all in progress goes on: at the first action that it has not yet come to, at most size(). It stays
+    // in front of that action whatever leaves. Null while no take-all is in progress, and after Clear().
+    std::optional<std::size_t> TakeAllCursor() const { return take_all_cursor_; }
+    void SetTakeAllCursor(std::optional<std::size_t> position) { take_all_cursor_ = position; }
 
   private:
-    void Erase(std::vector<bool> const& leaving);
-
     std::vector<ActionRequest> requests_;
-    std::size_t take_all_cursor_ = 0;
+    std::optional<std::size_t> take_all_cursor_;
 };
 
 template <class Leaves>
 void PendingActions::EraseIf(Leaves leaves) {
-    std::vector<bool> leaving(size());
-    try {
-        for (std::size_t i = 0; i < size(); ++i) leaving[i] = leaves(requests_[i]);
-    } catch (...) {
-        Erase(leaving);
-        throw;
+    if (take_all_cursor_) {
+        auto const passed = begin() + static_cast<std::ptrdiff_t>(*take_all_cursor_);
+        *take_all_cursor_ -= static_cast<std::size_t>(std::count_if(begin(), passed, leaves));
     }
-    Erase(leaving);
+    std::erase_if(requests_, leaves);
 }
 
 class UnixPipe;
@@ -77,6 +74,9 @@ extern UnixPipe* client_pipe;
 bool ClientIsGone();
 
 extern PendingActions& actions;
+// What the user is being asked to confirm, as it was when the question was put: from then until the answer is carried
+// out, which is in a later tick than the press. Meanwhile nothing else is decided.
+extern std::optional<ActionRequest>& m_askedAbout;
 
 // Where the support files are kept, an absolute directory; empty until the client names it.
 extern FileLocation& m_baseDirectory;
@@ -97,8 +97,7 @@ struct _WidgetRec;
 struct _XDisplay;
 struct _XtAppStruct;
 
-// The process's one connection to a display. Both are null until the X application is set up, and again once the
-// process has begun to exit. Main thread only.
+// The process's one connection to a display. Both are null until the X application is set up. Main thread only.
 extern _XtAppStruct* app_context;
 extern _XDisplay* display;
 

@@ -4,7 +4,6 @@
 
 #include "foundation/base/never_destroyed.h"
 
-// Never destroyed, so that it may be used at any moment of the exit.
 UICommandQueue& uiCommandQ = NeverDestroyed<UICommandQueue>();
 
 void UICommandQueue::WriteMessage(std::unique_ptr<UICommand> command) {
@@ -17,8 +16,7 @@ void UICommandQueue::ReadMessages(FiFoQueue<std::unique_ptr<UICommand>>& out) {
     commands_.Swap(out);
 }
 
-void QueueCommand(UICommandType type, unsigned long long actionID, int minutes, long long deadlineSeconds,
-                  bool nothingPending) {
-    auto seconds = static_cast<std::uint32_t>(deadlineSeconds);
-    uiCommandQ.WriteMessage(std::make_unique<UICommand>(type, actionID, minutes, seconds, nothingPending));
+void QueueCommand(UICommandType type, unsigned long long actionID, int minutes, long long deadlineSeconds) {
+    auto const seconds = static_cast<std::uint32_t>(deadlineSeconds);
+    uiCommandQ.WriteMessage(std::make_unique<UICommand>(type, actionID, minutes, seconds));
 }

@@ -23,13 +23,8 @@ enum class UICommandType : std::uint32_t {
 // One decision on its way from a dialog to the next tick.
 class UICommand {
   public:
-    UICommand(UICommandType type, unsigned long long actionID, std::int32_t minutes, std::uint32_t deadlineSeconds,
-              bool nothingPending = false)
-        : type_(type),
-          action_id_(actionID),
-          minutes_(minutes),
-          deadline_seconds_(deadlineSeconds),
-          nothing_pending_(nothingPending) {}
+    UICommand(UICommandType type, unsigned long long action_id, std::int32_t minutes, std::uint32_t deadline_seconds)
+        : type_(type), action_id_(action_id), minutes_(minutes), deadline_seconds_(deadline_seconds) {}
     virtual ~UICommand() = default;
 
     UICommandType Type() const { return type_; }
@@ -39,15 +34,12 @@ class UICommand {
     std::int32_t Minutes() const { return minutes_; }
     // Of a snooze: the earliest deadline in seconds since 1970.
     std::uint32_t DeadlineSeconds() const { return deadline_seconds_; }
-    // Of a snooze: whether no action was pending when the user decided. What has come since is not put off then.
-    bool NothingWasPending() const { return nothing_pending_; }
 
   private:
     UICommandType type_;
     unsigned long long action_id_;
     std::int32_t minutes_;
     std::uint32_t deadline_seconds_;
-    bool nothing_pending_;
 };
 
 // The decisions that wait for the next tick, first in first out. Any thread may call; each call holds the lock for one
@@ -68,5 +60,4 @@ extern UICommandQueue& uiCommandQ;
 
 // Appends a command to `uiCommandQ`; any thread may call. Only the low 32 bits of `deadlineSeconds` are kept, and read
 // back as an unsigned number: that is meant, the field has that width.
-void QueueCommand(UICommandType type, unsigned long long actionID, int minutes, long long deadlineSeconds,
-                  bool nothingPending = false);
+void QueueCommand(UICommandType type, unsigned long long actionID, int minutes, long long deadlineSeconds);

@@ -22,9 +22,6 @@ class FiFoQueue {
         tail_ = added;
     }
 
-    // The first element. The queue must not be empty.
-    T& Front() { return head_->value; }
-
     // Removes and returns the first element. The queue must not be empty.
     T TakeFront() {
         auto node = std::move(head_);

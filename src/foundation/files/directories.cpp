@@ -8,15 +8,17 @@
 #include <memory>
 #include <vector>
 
+#include "foundation/base/resumed.h"
 #include "foundation/files/file_access.h"
 #include "foundation/files/file_errors.h"
-#include "foundation/files/file_location.h"
 
 namespace {
 
+using UnixPlatform::FileDescriptor;
+
 // Whether the directory is there already.
 bool IsDirectory(FileLocation const& location) {
-    UnixFileInfo info(location);
+    UnixFileInfo const info(location);
     if (info.Exists() && !info.IsDirectory()) throw FileFoundError(EEXIST, location.AsStringView());
     return info.IsDirectory();
 }
@@ -28,25 +30,13 @@ void CreateDirectory(FileLocation const& location) {
     if (!IsDirectory(location)) throw FileFoundError(EEXIST, location.AsStringView());
 }
 
-}  // namespace
-
-void CreateDirectoryTree(FileLocation const& location) {
-    std::vector<FileLocation> missing;
-    for (auto next = location; !IsDirectory(next); next = next.Parent()) missing.push_back(next);
-    for (; !missing.empty(); missing.pop_back()) CreateDirectory(missing.back());
-}
-
-namespace {
-
-using UnixPlatform::FileDescriptor;
-
-struct CloseDirectory {
-    void operator()(DIR* directory) const { closedir(directory); }
-};
-
 bool SameFile(struct stat const& left, struct stat const& right) {
     return left.st_dev == right.st_dev && left.st_ino == right.st_ino;
 }
+
+struct CloseListing {
+    void operator()(DIR* listing) const { closedir(listing); }
+};
 
 // Empties a directory, depth first, with one directory open at a time.
 class ContentsDeleter {
@@ -81,9 +71,20 @@ class ContentsDeleter {
         if (result == -1) ThrowFileError(location_, errno);
     }
 
-    FileDescriptor OpenIn(FileDescriptor const& directory, char const* name) const {
+    // Whether a call about an entry did its work, rather than find the entry gone: others may delete here as well.
+    bool FoundEntry(int result) const {
+        if (result == -1 && errno == ENOENT) return false;
+        Check(result);
+        return true;
+    }
+
+    FileDescriptor TryOpenIn(FileDescriptor const& directory, char const* name) const {
         int const flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
-        FileDescriptor opened(UnixPlatform::Resumed([&] { return openat(directory.Get(), name, flags); }));
+        return FileDescriptor(Resumed([&] { return openat(directory.Get(), name, flags); }));
+    }
+
+    FileDescriptor OpenIn(FileDescriptor const& directory, char const* name) const {
+        auto opened = TryOpenIn(directory, name);
         Check(opened.Get());
         return opened;
     }
@@ -97,7 +98,7 @@ class ContentsDeleter {
     // All names first, then the deleting: not every file system lists reliably what changes meanwhile.
     std::vector<Stringy> NamesIn(FileDescriptor const& directory) const {
         auto listed = OpenIn(directory, ".");
-        std::unique_ptr<DIR, CloseDirectory> listing(fdopendir(listed.Get()));
+        std::unique_ptr<DIR, CloseListing> listing(fdopendir(listed.Get()));
         if (!listing) ThrowFileError(location_, errno);
         listed.Release();
         std::vector<Stringy> names;
@@ -105,7 +106,7 @@ class ContentsDeleter {
             errno = 0;
             auto const* entry = readdir(listing.get());
             if (!entry) break;
-            std::string_view name(entry->d_name);
+            std::string_view const name(entry->d_name);
             if (name != "." && name != "..") names.emplace_back(name);
         }
         if (errno != 0) ThrowFileError(location_, errno);
@@ -120,11 +121,18 @@ class ContentsDeleter {
     void DeleteOrEnterLast() {
         char const* name = levels_.back().names.back().c_str();
         struct stat status;
-        Check(fstatat(open_.Get(), name, &status, AT_SYMLINK_NOFOLLOW));
-        bool const directory = S_ISDIR(status.st_mode);
+        bool const found = FoundEntry(fstatat(open_.Get(), name, &status, AT_SYMLINK_NOFOLLOW));
+        if (found && S_ISDIR(status.st_mode)) return DeleteOrEnterDirectory(name);
+        if (found) FoundEntry(unlinkat(open_.Get(), name, 0));
+        levels_.back().names.pop_back();
+    }
+
+    void DeleteOrEnterDirectory(char const* name) {
         // An empty directory goes even if it may not be read.
-        if (directory && unlinkat(open_.Get(), name, AT_REMOVEDIR) == -1) return Enter(OpenIn(open_, name));
-        if (!directory) Check(unlinkat(open_.Get(), name, 0));
+        if (unlinkat(open_.Get(), name, AT_REMOVEDIR) == -1) {
+            auto directory = TryOpenIn(open_, name);
+            if (FoundEntry(directory.Get())) return Enter(std::move(directory));
+        }
         levels_.back().names.pop_back();
     }
 
@@ -134,7 +142,7 @@ class ContentsDeleter {
         // A directory that was moved away meanwhile leads up to somewhere else.
         if (!SameFile(StatusOf(parent), levels_.back().status)) ThrowFileError(location_, ESTALE);
         open_ = std::move(parent);
-        Check(unlinkat(open_.Get(), levels_.back().names.back().c_str(), AT_REMOVEDIR));
+        FoundEntry(unlinkat(open_.Get(), levels_.back().names.back().c_str(), AT_REMOVEDIR));
         levels_.back().names.pop_back();
     }
 
@@ -144,6 +152,12 @@ class ContentsDeleter {
 };
 
 }  // namespace
+
+void CreateDirectoryTree(FileLocation const& location) {
+    std::vector<FileLocation> missing;
+    for (auto next = location; !IsDirectory(next); next = next.Parent()) missing.push_back(next);
+    for (; !missing.empty(); missing.pop_back()) CreateDirectory(missing.back());
+}
 
 void DeleteContents(FileLocation const& location) {
     if (!location.Exists()) ThrowFileError(location, ENOENT);

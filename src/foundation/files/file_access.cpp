@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
+#include "foundation/base/resumed.h"
 #include "foundation/files/file_errors.h"
 
 namespace UnixPlatform {
@@ -27,14 +28,14 @@ std::uint64_t FileReadingPath::Length() const {
 
 void FileReader::Read(ArrayOf<unsigned char> bytes) {
     while (!bytes.empty()) {
-        auto count = UnixPlatform::Resumed([&] { return read(path_.file_.Get(), bytes.data(), bytes.size()); });
+        auto count = Resumed([&] { return read(path_.file_.Get(), bytes.data(), bytes.size()); });
         if (count <= 0) ThrowFileError(path_.location_, count == 0 ? EIO : errno);
         bytes = bytes.subspan(static_cast<std::size_t>(count));
     }
 }
 
 FileWritingPath::FileWritingPath(FileLocation const& location)
-    : location_(location), file_(UnixPlatform::OpenLocation(location, O_WRONLY | O_CREAT | O_TRUNC)) {}
+    : location_(location), file_(UnixPlatform::OpenLocation(location, O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW)) {}
 
 void FileWritingPath::Close() {
     if (!file_.Close()) ThrowFileError(location_, errno);
@@ -43,7 +44,7 @@ void FileWritingPath::Close() {
 void FileWriter::Write(ConstData bytes) {
     auto left = bytes.AsStringView();
     while (!left.empty()) {
-        auto written = UnixPlatform::Resumed([&] { return write(path_.file_.Get(), left.data(), left.size()); });
+        auto written = Resumed([&] { return write(path_.file_.Get(), left.data(), left.size()); });
         if (written <= 0) ThrowFileError(path_.location_, written == 0 ? EIO : errno);
         left.remove_prefix(static_cast<std::size_t>(written));
     }

@@ -36,15 +36,6 @@ class FileDescriptor {
     int descriptor_ = -1;
 };
 
-// Repeats a system call that a signal interrupts.
-template <class Call>
-auto Resumed(Call call) {
-    decltype(call()) result;
-    do result = call();
-    while (result == -1 && errno == EINTR);
-    return result;
-}
-
 // Opens a location, closed on exec, with open's flags; a file that this creates gets the mode that the process's umask
 // leaves of 0666. Throws a file error.
 FileDescriptor OpenLocation(FileLocation const& location, int flags);
@@ -82,7 +73,7 @@ class FileReader {
 // A file open for writing, emptied if it existed and created otherwise. Closed at the latest with this object.
 class FileWritingPath {
   public:
-    // Throws a file error.
+    // Throws a file error, also when a symbolic link has the name: what is written goes where the name says.
     explicit FileWritingPath(FileLocation const& location);
 
     // Closes the file; throws a file error when what was written did not reach it. Only a file closed by this call is

@@ -5,22 +5,20 @@
 #include <type_traits>
 #include <typeinfo>
 
-#include "foundation/files/file_location.h"
-
 namespace {
 
 // strerror_r comes in two forms: one returns the text, the other a status and the text in the buffer.
 template <class Result>
-Stringy TextOrFallback(Result result, char const* buffer, int errorNumber) {
+Stringy TextOrFallback(Result result, char const* buffer, int error_number) {
     if constexpr (std::is_same_v<Result, int>)
-        return result == 0 ? Stringy(buffer) : "Unknown error: " + std::to_string(errorNumber);
+        return result == 0 ? Stringy(buffer) : "Unknown error: " + std::to_string(error_number);
     else
         return result;
 }
 
-Stringy PlatformErrorText(int errorNumber) {
+Stringy PlatformErrorText(int error_number) {
     char buffer[256] = {};
-    return TextOrFallback(strerror_r(errorNumber, buffer, sizeof buffer), buffer, errorNumber);
+    return TextOrFallback(strerror_r(error_number, buffer, sizeof buffer), buffer, error_number);
 }
 
 }  // namespace
@@ -42,24 +40,24 @@ Stringy FileIOError::MakeErrorMessage() const {
     return message;
 }
 
-void ThrowFileError(UnixPlatform::FileLocation const& location, int errorNumber) {
+void ThrowFileError(FileLocation const& location, int error_number) {
     auto text = location.AsStringView();
-    switch (errorNumber) {
+    switch (error_number) {
         case EPERM:
         case EACCES:
-            throw FilePermissionError(errorNumber, text);
+            throw FilePermissionError(error_number, text);
         case ENOENT:
-            throw FileNotFoundError(errorNumber, text);
+            throw FileNotFoundError(error_number, text);
         case EAGAIN:
-            throw FileLockError(errorNumber, text);
+            throw FileLockError(error_number, text);
         case ENOMEM:
         case ENFILE:
         case EMFILE:
-            throw FileResourceError(errorNumber, text);
+            throw FileResourceError(error_number, text);
         case ENOTDIR:
         case ENAMETOOLONG:
-            throw DirectoryNotFoundError(errorNumber, text);
+            throw DirectoryNotFoundError(error_number, text);
         default:
-            throw FileIOError(errorNumber, text);
+            throw FileIOError(error_number, text);
     }
 }

@@ -4,10 +4,7 @@
 
 #include "foundation/base/const_data.h"
 #include "foundation/base/debuggable_exception.h"
-
-namespace UnixPlatform {
-class FileLocation;
-}
+#include "foundation/files/file_location.h"
 
 // The failures of file names, locations and operations: one base, one class for each kind of failure.
 //
@@ -16,13 +13,10 @@ class FileLocation;
 // Anything that went wrong with a file, and the base of the more particular failures below.
 class FileIOError : public DebuggableException {
   public:
-    // `errorNumber` is an errno value, 0 for none. The texts name the locations concerned, empty for none; they are
+    // `error_number` is an errno value, 0 for none. The texts name the locations concerned, empty for none; they are
     // copied.
-    explicit FileIOError(int errorNumber = 0, std::string_view location = {}, std::string_view other = {})
-        : error_number_(errorNumber), location_(location), other_(other) {}
-
-    int ErrorNumber() const { return error_number_; }
-    Stringy const& Location() const { return location_; }
+    explicit FileIOError(int error_number = 0, std::string_view location = {}, std::string_view other = {})
+        : error_number_(error_number), location_(location), other_(other) {}
 
     // The message text, made at the first call and valid as long as this object.
     char const* what() const noexcept override;
@@ -69,4 +63,4 @@ class IllegalFileNameLength : public FileIOError {
 };
 
 // Throws the failure that matches an errno value, naming the location.
-[[noreturn]] void ThrowFileError(UnixPlatform::FileLocation const& location, int errorNumber);
+[[noreturn]] void ThrowFileError(FileLocation const& location, int error_number);

@@ -9,7 +9,7 @@ namespace UnixPlatform {
 
 namespace {
 
-constexpr std::size_t longest_name = 255;
+constexpr std::size_t kLongestName = 255;
 
 FileName Combine(std::string_view first, std::string_view second) {
     return FileName::CombineNames(first.data(), first.size(), second.data(), second.size());
@@ -19,17 +19,17 @@ FileName Combine(std::string_view first, std::string_view second) {
 
 void FileName::Set(char const* bytes, std::size_t length) {
     std::string_view name(bytes, length);
-    if (name.empty() || name.size() > longest_name) throw IllegalFileNameLength();
+    if (name.empty() || name.size() > kLongestName) throw IllegalFileNameLength();
     if (name == "." || name == ".." || name.find('/') != name.npos) throw IllegalFileName(0, name);
     name_ = name;
 }
 
-FileName FileName::CombineNames(char const* first, std::size_t firstLength, char const* second,
-                                std::size_t secondLength) {
-    if (firstLength >= longest_name || secondLength >= longest_name - firstLength) throw IllegalFileName();
+FileName FileName::CombineNames(char const* first, std::size_t first_length, char const* second,
+                                std::size_t second_length) {
+    if (first_length >= kLongestName || second_length >= kLongestName - first_length) throw IllegalFileName();
     FileName joined;
-    joined.name_.reserve(firstLength + secondLength);
-    joined.name_.append(first, firstLength).append(second, secondLength);
+    joined.name_.reserve(first_length + second_length);
+    joined.name_.append(first, first_length).append(second, second_length);
     return joined;
 }
 
@@ -67,12 +67,12 @@ bool FileLocation::Exists() const {
 }
 
 FileLocation FileLocation::Parent() const {
-    auto nameEnd = path_.find_last_not_of('/');
-    if (nameEnd == path_.npos) return *this;
-    auto slash = path_.rfind('/', nameEnd);
+    auto name_end = path_.find_last_not_of('/');
+    if (name_end == path_.npos) return *this;
+    auto slash = path_.rfind('/', name_end);
     if (slash == path_.npos) return {};
-    auto parentEnd = path_.find_last_not_of('/', slash);
-    return FileLocation(parentEnd == path_.npos ? "/" : AsStringView().substr(0, parentEnd + 1));
+    auto parent_end = path_.find_last_not_of('/', slash);
+    return FileLocation(parent_end == path_.npos ? "/" : AsStringView().substr(0, parent_end + 1));
 }
 
 FileLocation FileLocation::Child(FileName const& name) const {
@@ -89,14 +89,6 @@ char const* FileLocation::SystemPath() const {
     return path_.c_str();
 }
 
-}  // namespace UnixPlatform
-
-FileLocation MakeFileLocation(UStringRef<UTF8> path) {
-    return FileLocation(path.AsStringView());
-}
-
-namespace UnixPlatform {
-
 UnixFileInfo::UnixFileInfo(FileLocation const& location) {
     struct stat status;
     if (stat(location.SystemPath(), &status) == 0)
@@ -106,3 +98,7 @@ UnixFileInfo::UnixFileInfo(FileLocation const& location) {
 }
 
 }  // namespace UnixPlatform
+
+FileLocation MakeFileLocation(UStringRef<UTF8> path) {
+    return FileLocation(path.AsStringView());
+}

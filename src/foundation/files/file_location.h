@@ -3,7 +3,6 @@
 #include <sys/stat.h>
 
 #include <cstddef>
-#include <ctime>
 #include <optional>
 #include <string_view>
 
@@ -31,17 +30,14 @@ class FileName {
     //
     // A joined name holds at most 254 bytes, or IllegalFileName is thrown, although a name set directly may hold 255:
     // meant, translation files are looked up by joined names and what was refused once stays refused.
-    static FileName CombineNames(char const* first, std::size_t firstLength, char const* second,
-                                 std::size_t secondLength);
+    static FileName CombineNames(char const* first, std::size_t first_length, char const* second,
+                                 std::size_t second_length);
 
     bool IsEmpty() const { return name_.empty(); }
-    std::size_t size() const { return name_.size(); }
     // Valid until this name changes.
     std::string_view AsStringView() const { return name_; }
 
-    // Byte by byte, unsigned.
     bool operator==(FileName const&) const = default;
-    auto operator<=>(FileName const&) const = default;
 
   private:
     Stringy name_;
@@ -51,12 +47,6 @@ class FileName {
 FileName operator+(FileName const& first, FileName const& second);
 FileName operator+(FileName const& first, char const* second);
 FileName operator+(char const* first, FileName const& second);
-
-}  // namespace UnixPlatform
-
-using FileName = UnixPlatform::FileName;
-
-namespace UnixPlatform {
 
 // Where a file or directory is: a path, meant to be absolute, as bytes in whatever encoding the file system keeps
 // them. Nothing is checked on construction; an empty location names nothing, and every operation refuses it before it
@@ -94,23 +84,12 @@ class FileLocation {
     // byte, at which the system would cut it short. Valid until this location changes.
     char const* SystemPath() const;
 
-    // Byte by byte, unsigned: two spellings of one path differ.
+    // Byte by byte: two spellings of one path differ.
     bool operator==(FileLocation const&) const = default;
-    auto operator<=>(FileLocation const&) const = default;
 
   private:
     Stringy path_;
 };
-
-}  // namespace UnixPlatform
-
-using FileLocation = UnixPlatform::FileLocation;
-
-// The location with that text, byte for byte: an empty or relative one is made, too, and its use refused or allowed
-// where it is used.
-FileLocation MakeFileLocation(UStringRef<UTF8> path);
-
-namespace UnixPlatform {
 
 // What the file system says about a location at one moment, symbolic links followed.
 class UnixFileInfo {
@@ -122,15 +101,16 @@ class UnixFileInfo {
     bool Exists() const { return found_.has_value(); }
     bool IsDirectory() const { return found_ && S_ISDIR(found_->st_mode); }
 
-    // Only of something that exists. Times count from 1970-01-01 00:00 UTC.
-    mode_t Mode() const { return found_->st_mode; }
-    std::timespec AccessTime() const { return found_->st_atim; }
-    std::timespec ModificationTime() const { return found_->st_mtim; }
-
   private:
     std::optional<struct stat> found_;
 };
 
 }  // namespace UnixPlatform
 
+using UnixPlatform::FileLocation;
+using UnixPlatform::FileName;
 using UnixPlatform::UnixFileInfo;
+
+// The location with that text, byte for byte: an empty or relative one is made, too, and its use refused or allowed
+// where it is used.
+FileLocation MakeFileLocation(UStringRef<UTF8> path);

@@ -25,10 +25,6 @@ constexpr bool Lower(unsigned char byte) {
 constexpr bool Letter(unsigned char byte) {
     return Upper(byte) || Lower(byte);
 }
-// "0" to "9", "a" to "f", "A" to "F".
-constexpr bool HexDigit(unsigned char byte) {
-    return Digit(byte) || (byte >= 'a' && byte <= 'f') || (byte >= 'A' && byte <= 'F');
-}
 // A letter or a digit.
 constexpr bool Alphanumeric(unsigned char byte) {
     return Letter(byte) || Digit(byte);

@@ -12,39 +12,44 @@ using ResourceTransfer = T&&;
 
 // Text that owns its units; moved by an explicit transfer, never copied implicitly.
 //
-// A zero unit, not counted in the length, stands after the last one; an empty string owns no buffer. Nothing is checked:
-// whether the text is known to be valid is what its source says of itself.
+// A zero unit, not counted in the length, stands after the last one; an empty string owns no buffer. Whether the text is
+// valid in E is not checked.
 template <class E>
 class AutoUString {
   public:
     using Unit = typename E::Unit;
 
     AutoUString() = default;
+    // As many units, for the caller to fill through data().
+    explicit AutoUString(std::size_t size) : size_(size) {
+        if (size_ == 0) return;
+        units_ = std::make_unique_for_overwrite<Unit[]>(size_ + 1);
+        units_[size_] = 0;
+    }
     // Copies the range.
-    AutoUString(Unit const* begin, Unit const* end, bool valid = false)
-        : size_(static_cast<std::size_t>(end - begin)), known_valid_(valid) {
+    AutoUString(Unit const* begin, Unit const* end) : size_(static_cast<std::size_t>(end - begin)) {
         if (size_ == 0) return;
         units_ = std::make_unique_for_overwrite<Unit[]>(size_ + 1);
         std::copy(begin, end, units_.get());
         units_[size_] = 0;
     }
-    explicit AutoUString(UStringRef<E> text) : AutoUString(text.begin(), text.end(), text.KnownValid()) {}
+    explicit AutoUString(UStringRef<E> text) : AutoUString(text.begin(), text.end()) {}
     AutoUString(ResourceTransfer<AutoUString> other) noexcept
-        : units_(std::move(other.units_)), size_(std::exchange(other.size_, 0)), known_valid_(other.known_valid_) {}
+        : units_(std::move(other.units_)), size_(std::exchange(other.size_, 0)) {}
     AutoUString& operator=(ResourceTransfer<AutoUString> other) noexcept {
         units_ = std::move(other.units_);
         size_ = std::exchange(other.size_, 0);
-        known_valid_ = other.known_valid_;
         return *this;
     }
 
+    Unit* data() { return units_.get(); }
     Unit const* begin() const { return units_.get(); }
     Unit const* end() const { return units_.get() + size_; }
     std::size_t size() const { return size_; }
     bool empty() const { return size_ == 0; }
     std::string_view AsStringView() const requires ByteEncoding<E> { return Ref().AsStringView(); }
 
-    UStringRef<E> Ref() const { return {begin(), end(), known_valid_}; }
+    UStringRef<E> Ref() const { return {begin(), end()}; }
     operator UStringRef<E>() const { return Ref(); }
 
     // Gives the buffer up to the caller (null for an empty string); the string is empty afterwards.
@@ -56,7 +61,6 @@ class AutoUString {
   private:
     std::unique_ptr<Unit[]> units_;
     std::size_t size_ = 0;
-    bool known_valid_ = false;
 };
 
 template <class E>

@@ -5,25 +5,25 @@
 
 namespace {
 
-constexpr unsigned char no_value = 64;
+constexpr unsigned char kNoValue = 64;
 
-constexpr std::string_view alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+constexpr std::string_view kAlphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
 
 constexpr std::array<unsigned char, 256> MakeValues() {
     std::array<unsigned char, 256> values{};
-    values.fill(no_value);
+    values.fill(kNoValue);
     unsigned char next = 0;
-    for (char character : alphabet) values[static_cast<unsigned char>(character)] = next++;
+    for (char character : kAlphabet) values[static_cast<unsigned char>(character)] = next++;
     return values;
 }
-constexpr auto values = MakeValues();
+constexpr auto kValues = MakeValues();
 
 }  // namespace
 
 void Base64Decoder::Decode(ConstData text, Stringy& bytes) {
     for (unsigned char character : text) {
-        unsigned char value = values[character];
-        if (value == no_value) continue;
+        unsigned char value = kValues[character];
+        if (value == kNoValue) continue;
         bits_ = bits_ << 6 | value;
         waiting_ += 6;
         if (waiting_ < 8) continue;
@@ -44,7 +44,7 @@ Stringy EncodeBase64(ConstData bytes) {
     text.reserve(bytes.size() / 3 * 4 + 4);
     std::uint32_t bits = 0;
     int waiting = 0;
-    auto emit = [&](std::uint32_t value) { text += alphabet[value & 0x3F]; };
+    auto emit = [&](std::uint32_t value) { text += kAlphabet[value & 0x3F]; };
     for (unsigned char byte : bytes) {
         bits = bits << 8 | byte;
         for (waiting += 8; waiting >= 6;) emit(bits >> (waiting -= 6));

@@ -22,12 +22,12 @@ std::vector<Unit> Terminated(Source const& text) {
 // Measures with `convert`, then converts. The result is as long as the second pass says, never longer than measured.
 template <class Error, class To, class From>
 std::vector<To> Converted(std::size_t (*convert)(To*, From const*, std::size_t), std::vector<From> const& text) {
-    constexpr auto failed = static_cast<std::size_t>(-1);
+    constexpr auto kFailed = static_cast<std::size_t>(-1);
     auto size = convert(nullptr, text.data(), 0);
-    if (size == failed) throw Error();
+    if (size == kFailed) throw Error();
     std::vector<To> result(size + 1);
     size = convert(result.data(), text.data(), size);
-    if (size == failed) throw Error();
+    if (size == kFailed) throw Error();
     result.resize(size);
     return result;
 }

@@ -3,7 +3,6 @@
 #include "foundation/base/debuggable_exception.h"
 #include "foundation/text/auto_ustring.h"
 #include "foundation/text/fixed_ascii.h"
-#include "foundation/text/shared_ustring.h"
 #include "foundation/text/transcode.h"
 
 // To and from the 8-bit encoding of the process's locale (LC_CTYPE), which is what the C library and the X toolkit take.
@@ -48,12 +47,4 @@ AutoNullTerminated<char> OneLine(AutoNullTerminated<char> const& text);
 template <class E>
 AutoNullTerminated<char> MakeLocalString(UStringRef<E> text) {
     return MakeNullTerminatedString(UnixPlatform::ToLocal8Bit(text));
-}
-template <class E>
-AutoNullTerminated<char> MakeLocalString(SharedUString<E> const& text) {
-    return MakeLocalString(text.Ref());
-}
-template <class E>
-AutoNullTerminated<char> MakeLocalString(AutoUString<E> const& text) {
-    return MakeLocalString(text.Ref());
 }

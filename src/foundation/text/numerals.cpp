@@ -4,29 +4,18 @@
 #include <limits>
 #include <utility>
 
-#include "foundation/text/ascii.h"
-
 namespace {
 
-constexpr auto maximum = std::numeric_limits<unsigned long long>::max();
-
-unsigned DigitValue(unsigned char digit) {
-    return Ascii::Digit(digit) ? digit - unsigned{'0'} : Ascii::ToLower(digit) - 87u;
-}
-
-template <unsigned Base, bool (*IsDigit)(unsigned char)>
-NumeralResult ReadUnsigned(ConstData text, unsigned long long& value) {
+NumeralResult ReadUnsigned(ConstData text, int base, unsigned long long& value) {
+    auto bytes = text.AsStringView();
     value = 0;
-    if (text.empty()) return NumeralResult::NotANumeral;
-    for (unsigned char byte : text) {
-        if (value > maximum / Base) return NumeralResult::TooLarge;
-        value *= Base;
-        if (!IsDigit(byte)) return NumeralResult::NotANumeral;
-        unsigned digit = DigitValue(byte);
-        if (digit > maximum - value) return NumeralResult::TooLarge;
-        value += digit;
-    }
-    return NumeralResult::Success;
+    auto [stop, error] = std::from_chars(bytes.data(), bytes.data() + bytes.size(), value, base);
+    if (error == std::errc::result_out_of_range) return NumeralResult::TooLarge;
+    if (error != std::errc()) return NumeralResult::NotANumeral;
+    if (stop == bytes.data() + bytes.size()) return NumeralResult::Success;
+    // A number that leaves no room for another digit is too large, before the stray byte is looked at.
+    auto most = std::numeric_limits<unsigned long long>::max() / static_cast<unsigned>(base);
+    return value > most ? NumeralResult::TooLarge : NumeralResult::NotANumeral;
 }
 
 // Reads through the 64-bit form of the same reader.
@@ -68,25 +57,18 @@ T ReadOr(T fallback, ConstData text) {
 }
 
 template <std::size_t Capacity>
-void AppendDigits(FixedAscii<Capacity>& numeral, unsigned long long value, int base, unsigned minDigits) {
+void AppendDigits(FixedAscii<Capacity>& numeral, unsigned long long value, int base, unsigned min_digits) {
     char digits[20];
     char* end = value ? std::to_chars(digits, digits + sizeof digits, value, base).ptr : digits;
     auto count = static_cast<std::size_t>(end - digits);
-    for (std::size_t have = count; have < minDigits; ++have) numeral.Append('0');
+    for (std::size_t have = count; have < min_digits; ++have) numeral.Append('0');
     numeral.Append(std::string_view(digits, count));
-}
-
-template <class Numeral>
-Numeral Written(unsigned long long value, int base, unsigned minDigits) {
-    Numeral numeral;
-    AppendDigits(numeral, value, base, minDigits);
-    return numeral;
 }
 
 }  // namespace
 
 NumeralResult TryReadAsciiDecimalNumeral(ConstData text, unsigned long long& value) {
-    return ReadUnsigned<10, Ascii::Digit>(text, value);
+    return ReadUnsigned(text, 10, value);
 }
 
 NumeralResult TryReadAsciiDecimalNumeral(ConstData text, unsigned int& value) {
@@ -105,7 +87,7 @@ NumeralResult TryReadAsciiDecimalNumeral(ConstData text, int& value) {
 }
 
 NumeralResult TryReadAsciiHexNumeral(ConstData text, unsigned long long& value) {
-    return ReadUnsigned<16, Ascii::HexDigit>(text, value);
+    return ReadUnsigned(text, 16, value);
 }
 
 NumeralResult TryReadAsciiHexNumeral(ConstData text, unsigned int& value) {
@@ -161,7 +143,9 @@ int ReadAsciiSignedDecimalNumeral32WithDefault(ConstData text, int fallback) {
 }
 
 AsciiDecimalNumeral MakeAsciiDecimalNumeral64(unsigned long long value, unsigned int minDigits) {
-    return Written<AsciiDecimalNumeral>(value, 10, minDigits);
+    AsciiDecimalNumeral numeral;
+    AppendDigits(numeral, value, 10, minDigits);
+    return numeral;
 }
 
 AsciiSignedDecimalNumeral MakeAsciiSignedDecimalNumeral64(long long value, unsigned int minDigits) {
@@ -184,7 +168,9 @@ AsciiSignedDecimalNumeral MakeAsciiSignedDecimalNumeral(int value, unsigned int 
 }
 
 AsciiHexNumeral MakeAsciiHexNumeral64(unsigned long long value, unsigned int minDigits) {
-    return Written<AsciiHexNumeral>(value, 16, minDigits);
+    AsciiHexNumeral numeral;
+    AppendDigits(numeral, value, 16, minDigits);
+    return numeral;
 }
 
 AsciiHexNumeral MakeAsciiHexNumeral(unsigned int value, unsigned int minDigits) {
@@ -200,8 +186,8 @@ void Numeral::Render(unsigned long long magnitude, unsigned int base) {
 }
 
 void Numeral::PadTo(unsigned int digits) {
-    if (digits >= end) throw ConstDataCapacityExceeded();
-    while (end - first_ < digits) Prepend('0');
+    if (digits >= kEnd) throw ConstDataCapacityExceeded();
+    while (kEnd - first_ < digits) Prepend('0');
 }
 
 void Numeral::Prepend(unsigned char digit) {

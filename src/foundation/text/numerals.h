@@ -11,8 +11,8 @@
 // Reading and writing whole numbers as plain ASCII numerals.
 //
 // There is no locale and no tolerance: no blank, separator or prefix is accepted anywhere, a sign only by the signed
-// readers; leading zeros are ignored. Every reader tells "not a numeral" from "too large for the target", and examines
-// no byte twice. Any thread may call.
+// readers; leading zeros are ignored. Every reader tells "not a numeral" from "too large for the target". Any thread may
+// call.
 
 // The text is not a numeral of the kind asked for. An empty text never is one.
 class NotANumeral : public DebuggableException {};
@@ -91,8 +91,8 @@ class Numeral {
     void PadTo(unsigned int digits);
 
     // The sign of a negative number, and the digits.
-    operator ConstData() const { return {Text(), text_ + end}; }
-    operator UStringRef<USAscii>() const { return {Text(), text_ + end, true}; }
+    operator ConstData() const { return {Text(), text_ + kEnd}; }
+    operator UStringRef<USAscii>() const { return {Text(), text_ + kEnd, true}; }
     // The same, with a NUL after the last digit.
     operator unsigned char const*() const { return Text(); }
 
@@ -107,16 +107,16 @@ class Numeral {
     }
 
   private:
-    // A place for the sign, the digits of a 64-bit value in base 2, and a NUL.
-    static constexpr std::size_t end = 1 + 64;
+    // Where the digits end: a place for the sign and those of a 64-bit value in base 2 come before, a NUL after.
+    static constexpr std::size_t kEnd = 1 + 64;
 
     void Render(unsigned long long magnitude, unsigned int base);
     void Prepend(unsigned char digit);
     unsigned char const* Text() const { return text_ + first_ - (negative_ ? 1 : 0); }
 
-    unsigned char text_[end + 1] = {};
+    unsigned char text_[kEnd + 1] = {};
     // The place of the first digit; the sign stands before it.
-    std::size_t first_ = end;
+    std::size_t first_ = kEnd;
     unsigned char sign_;
     bool negative_;
 };

@@ -15,7 +15,7 @@ TEST(Numerals, ReadersTakeTheWholeRangeOfTheirTypeAndNoMore) {
     EXPECT_EQ(ReadAsciiDecimalNumeral("4294967295"), 4294967295u);
     EXPECT_EQ(ReadAsciiSignedDecimalNumeral64("-09223372036854775808"), kLeast);
     EXPECT_EQ(ReadAsciiSignedDecimalNumeral("+2147483647"), 2147483647);
-    for (auto text : {"18446744073709551616", "18446744073709551620", "99999999999999999999x"})
+    for (auto text : {"18446744073709551616", "18446744073709551620", "99999999999999999999x", "1844674407370955162x"})
         EXPECT_THROW(ReadAsciiDecimalNumeral64(text), NumeralTooLarge) << text;
     EXPECT_THROW(ReadAsciiDecimalNumeral("4294967296"), NumeralTooLarge);
     for (auto text : {"-9223372036854775809", "+9223372036854775808"})

@@ -27,17 +27,25 @@ TEST(SharedUString, CopiesStandOverOneBufferUntilTheLastGoes) {
     EXPECT_EQ(copy.begin(), moved.begin());
     assigned = copy;
     copy = none;
-    moved = static_cast<Shared const&>(moved);
     EXPECT_TRUE(copy.empty() && moved == Ref("abc") && assigned == moved);
 }
 
+TEST(SharingLink, IsAloneBeforeItIsCopiedAndWhenTheCopiesHaveLeft) {
+    SharingLink link;
+    EXPECT_TRUE(link.Alone() && link.Leave());
+    SharingLink copy(link);
+    EXPECT_FALSE(link.Alone() || copy.Alone() || copy.Leave());
+    EXPECT_TRUE(link.Alone() && link.Leave());
+}
+
 TEST(SharedUString, ThreadsCopyAndDropOneStringAtTheSameTime) {
-    for (int round = 0; round < 200; ++round) {
-        std::latch copied(4);
+    for (int round = 0; round < 500; ++round) {
+        std::latch started(4), copied(4);
         std::vector<std::jthread> threads;
         Shared text(Ref("shared by all"));
         for (int thread = 0; thread < 4; ++thread)
             threads.emplace_back([&] {
+                started.arrive_and_wait();
                 std::vector<Shared> copies(20, text);
                 copied.count_down();
                 EXPECT_EQ(copies.back().AsStringView(), "shared by all");

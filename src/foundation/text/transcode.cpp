@@ -7,6 +7,8 @@
 
 #include "foundation/text/ustring_builder.h"
 
+namespace {
+
 // The block of 4,096 bytes that a transcoder collects its output in before handing it on.
 //
 // Output that was not flushed is dropped with the block: nothing is handed on while an exception passes.
@@ -19,7 +21,7 @@ class TranscodedBlock {
 
     // Makes sure that `units` more can be put.
     void MakeRoom(std::size_t units) {
-        if (size_ + units > capacity) Flush();
+        if (size_ + units > kCapacity) Flush();
     }
     void Flush() {
         if (size_ == 0) return;
@@ -27,11 +29,11 @@ class TranscodedBlock {
     }
 
   private:
-    static constexpr std::size_t capacity = 4096 / sizeof(typename E::Unit);
+    static constexpr std::size_t kCapacity = 4096 / sizeof(typename E::Unit);
 
     UTextReceiver<E>& receiver_;
     std::size_t size_ = 0;
-    typename E::Unit units_[capacity];
+    typename E::Unit units_[kCapacity];
 };
 
 // Calls put(block, unit) for each of `units` and hands the output on. One call puts at most `Longest` units.
@@ -45,14 +47,12 @@ void TranscodeEach(std::span<Unit const> units, UTextReceiver<E>& receiver, Put 
     block.Flush();
 }
 
-namespace {
-
 // The sequences of two, three and four bytes: how the first byte begins, and the bits that the code point has.
 struct SequenceForm {
     UTF8::Unit lead_mask, lead;
     UTF32::Unit value_mask;
 };
-constexpr SequenceForm sequence_forms[] = {{0xE0, 0xC0, 0x7FF}, {0xF0, 0xE0, 0xFFFF}, {0xF8, 0xF0, 0x1FFFFF}};
+constexpr SequenceForm kSequenceForms[] = {{0xE0, 0xC0, 0x7FF}, {0xF0, 0xE0, 0xFFFF}, {0xF8, 0xF0, 0x1FFFFF}};
 
 bool IsHighSurrogate(UTF16::Unit unit) {
     return (unit & 0xFC00) == 0xD800;
@@ -61,74 +61,6 @@ bool IsHighSurrogate(UTF16::Unit unit) {
 bool IsLowSurrogate(UTF16::Unit unit) {
     return (unit & 0xFC00) == 0xDC00;
 }
-
-}  // namespace
-
-void GenericTranscoder<UTF32, UTF8>::Start(UTF8 encoding) {
-    count_ = 0;
-    StreamTranscoder::Start(encoding);
-}
-
-void GenericTranscoder<UTF32, UTF8>::Receive(ConstArrayOf<UTF8::Unit> units) {
-    TranscodeEach<1>(units, Receiver(), [this](auto& block, UTF8::Unit byte) {
-        if (count_ == 0 && byte < 0x80) {
-            block.Put(byte);
-        } else if (CompletesSequence(byte)) {
-            block.Put(bits_);
-        }
-    });
-}
-
-bool GenericTranscoder<UTF32, UTF8>::CompletesSequence(UTF8::Unit byte) {
-    if (count_ == 0) {
-        bits_ = lead_ = byte;
-        intact_ = true;
-        count_ = 1;
-        return false;
-    }
-    bits_ = bits_ << 6 | (byte & 0x3F);
-    intact_ = intact_ && (byte & 0xC0) == 0x80;
-    auto const& form = sequence_forms[count_ - 1];
-    bool complete = intact_ && (lead_ & form.lead_mask) == form.lead;
-    bool last = ++count_ == 4;
-    if (!complete && !last) return false;
-    count_ = 0;
-    if (!complete) throw InvalidTextEncoding();
-    bits_ &= form.value_mask;
-    return true;
-}
-
-void GenericTranscoder<UTF32, UTF8>::ReceiveEnd() {
-    if (std::exchange(count_, 0) != 0) throw InvalidTextEncoding();
-    StreamTranscoder::ReceiveEnd();
-}
-
-void GenericTranscoder<UTF32, UTF16>::Start(UTF16 encoding) {
-    high_ = 0;
-    StreamTranscoder::Start(encoding);
-}
-
-void GenericTranscoder<UTF32, UTF16>::Receive(ConstArrayOf<UTF16::Unit> units) {
-    TranscodeEach<1>(units, Receiver(), [this](auto& block, UTF16::Unit unit) {
-        bool wanted_low = high_ != 0;
-        if (IsLowSurrogate(unit) != wanted_low) throw InvalidTextEncoding();
-        if (wanted_low) {
-            block.Put(0x10000u + ((high_ & 0x3FFu) << 10 | (unit & 0x3FFu)));
-            high_ = 0;
-        } else if (IsHighSurrogate(unit)) {
-            high_ = unit;
-        } else {
-            block.Put(unit);
-        }
-    });
-}
-
-void GenericTranscoder<UTF32, UTF16>::ReceiveEnd() {
-    if (std::exchange(high_, 0) != 0) throw InvalidTextEncoding();
-    StreamTranscoder::ReceiveEnd();
-}
-
-namespace {
 
 void RequireEncodable(UTF32::Unit code) {
     if ((code >= 0xD800 && code <= 0xDFFF) || code >= 0x110000) throw InvalidTextEncoding();
@@ -168,6 +100,70 @@ void PutAscii(TranscodedBlock<To>& block, USAscii::Unit byte) {
 }
 
 }  // namespace
+
+void GenericTranscoder<UTF32, UTF8>::Start(UTF8 encoding) {
+    count_ = 0;
+    StreamTranscoder::Start(encoding);
+}
+
+void GenericTranscoder<UTF32, UTF8>::Receive(ConstArrayOf<UTF8::Unit> units) {
+    TranscodeEach<1>(units, Receiver(), [this](auto& block, UTF8::Unit byte) {
+        if (count_ == 0 && byte < 0x80) {
+            block.Put(byte);
+        } else if (CompletesSequence(byte)) {
+            block.Put(bits_);
+        }
+    });
+}
+
+bool GenericTranscoder<UTF32, UTF8>::CompletesSequence(UTF8::Unit byte) {
+    if (count_ == 0) {
+        bits_ = lead_ = byte;
+        intact_ = true;
+        count_ = 1;
+        return false;
+    }
+    bits_ = bits_ << 6 | (byte & 0x3F);
+    intact_ = intact_ && (byte & 0xC0) == 0x80;
+    auto const& form = kSequenceForms[count_ - 1];
+    bool complete = intact_ && (lead_ & form.lead_mask) == form.lead;
+    bool last = ++count_ == 4;
+    if (!complete && !last) return false;
+    count_ = 0;
+    if (!complete) throw InvalidTextEncoding();
+    bits_ &= form.value_mask;
+    return true;
+}
+
+void GenericTranscoder<UTF32, UTF8>::ReceiveEnd() {
+    if (std::exchange(count_, 0) != 0) throw InvalidTextEncoding();
+    StreamTranscoder::ReceiveEnd();
+}
+
+void GenericTranscoder<UTF32, UTF16>::Start(UTF16 encoding) {
+    high_ = 0;
+    StreamTranscoder::Start(encoding);
+}
+
+void GenericTranscoder<UTF32, UTF16>::Receive(ConstArrayOf<UTF16::Unit> units) {
+    TranscodeEach<1>(units, Receiver(), [this](auto& block, UTF16::Unit unit) {
+        bool wanted_low = high_ != 0;
+        if (IsLowSurrogate(unit) != wanted_low) throw InvalidTextEncoding();
+        if (wanted_low) {
+            block.Put(0x10000u + ((high_ & 0x3FFu) << 10 | (unit & 0x3FFu)));
+            high_ = 0;
+        } else if (IsHighSurrogate(unit)) {
+            high_ = unit;
+        } else {
+            block.Put(unit);
+        }
+    });
+}
+
+void GenericTranscoder<UTF32, UTF16>::ReceiveEnd() {
+    if (std::exchange(high_, 0) != 0) throw InvalidTextEncoding();
+    StreamTranscoder::ReceiveEnd();
+}
 
 void GenericTranscoder<UTF8, UTF32>::Receive(ConstArrayOf<UTF32::Unit> units) {
     TranscodeEach<4>(units, Receiver(), PutUTF8);

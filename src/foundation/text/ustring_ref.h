@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <string_view>
 
 #include "foundation/base/const_data.h"
@@ -33,8 +32,8 @@ concept ByteEncoding = sizeof(typename E::Unit) == 1;
 
 // A view over text in the encoding E: it owns nothing, and its owner must outlive it.
 //
-// It also carries whether the text is already known to be valid in E (literals and formatted text are, bytes read from
-// a file are not); nothing is checked on construction.
+// It also carries whether whoever made it knows the text to be valid in E: of zero-terminated literals and of numerals
+// that is known, of bytes from outside and of what a string object holds it is not. Nothing is checked.
 template <class E>
 class UStringRef {
   public:
@@ -43,11 +42,13 @@ class UStringRef {
     constexpr UStringRef() = default;
     constexpr UStringRef(Unit const* begin, Unit const* end, bool valid = false)
         : begin_(begin), end_(end), known_valid_(valid) {}
-    // A zero-terminated literal; a null pointer gives the empty, absent reference.
+    // Zero-terminated text, taken for a literal; a null pointer gives the empty reference.
     UStringRef(char const* text) requires ByteEncoding<E>
-        : UStringRef(text ? std::string_view(text) : std::string_view(), true) {}
-    explicit UStringRef(std::string_view bytes, bool valid = false) requires ByteEncoding<E>
-        : begin_(reinterpret_cast<Unit const*>(bytes.data())), end_(begin_ + bytes.size()), known_valid_(valid) {}
+        : UStringRef(text ? std::string_view(text) : std::string_view()) {
+        known_valid_ = true;
+    }
+    explicit UStringRef(std::string_view bytes) requires ByteEncoding<E>
+        : begin_(reinterpret_cast<Unit const*>(bytes.data())), end_(begin_ + bytes.size()) {}
 
     constexpr Unit const* begin() const { return begin_; }
     constexpr Unit const* end() const { return end_; }

@@ -42,11 +42,11 @@ long long DateRecord::DaysBefore(std::uint32_t year) {
     return 365LL * year + last / 4 - last / 100 + last / 400 + 1;
 }
 
-std::uint32_t DateRecord::YearOf(long long absoluteDay) {
-    if (absoluteDay <= 0) return 0;
-    if (absoluteDay >= DaysBefore(kLastYear)) return kLastYear;
+std::uint32_t DateRecord::YearOf(long long absolute_day) {
+    if (absolute_day <= 0) return 0;
+    if (absolute_day >= DaysBefore(kLastYear)) return kLastYear;
     // Without the leap days of the centuries, four years are 1461 days throughout.
-    long long const without400 = absoluteDay - 1 - (absoluteDay - 1) / 146'097;
+    long long const without400 = absolute_day - 1 - (absolute_day - 1) / 146'097;
     long long const julian = without400 + without400 / 36'524;
     return static_cast<std::uint32_t>((julian - julian / 1'461) / 365);
 }

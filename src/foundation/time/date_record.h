@@ -38,7 +38,7 @@ struct DateRecord {
     // The absolute day of the year's January 1.
     static long long DaysBefore(std::uint32_t year);
     // The year in which an absolute day lies.
-    static std::uint32_t YearOf(long long absoluteDay);
+    static std::uint32_t YearOf(long long absolute_day);
 
     // Days since January 1 of the year.
     int DayOfYear() const;

@@ -6,6 +6,29 @@
 #include "foundation/text/numerals.h"
 #include "foundation/time/time_to_text.h"
 
+namespace {
+
+bool TakeWeekday(TimeScanner& scanner) {
+    for (int day = 0; day < 7; ++day)
+        if (scanner.Take(DayOfWeekToText(static_cast<DayOfWeek>(day)))) return true;
+    return false;
+}
+
+bool TakeMonth(TimeScanner& scanner, Month& month) {
+    for (int number = 1; number <= 12; ++number) {
+        month = static_cast<Month>(number);
+        if (scanner.Take(MonthToText(month))) return true;
+    }
+    return false;
+}
+
+bool TakeDate(TimeScanner& scanner, DateRecord& date) {
+    return TakeWeekday(scanner) && scanner.Take(", ") && scanner.TakeTwoDigits(date.day) && scanner.Take(" ") &&
+           TakeMonth(scanner, date.month) && scanner.Take(" ") && scanner.TakeYear(date.year);
+}
+
+}  // namespace
+
 void TimeScanner::Trim() {
     constexpr char const* blanks = " \t\r\n";
     rest_.remove_prefix(std::min(rest_.find_first_not_of(blanks), rest_.size()));
@@ -56,29 +79,6 @@ bool TimeScanner::TakeOffset(std::string_view separator, TimeZone& zone) {
     zone = TimeZone(west ? -seconds : seconds);
     return true;
 }
-
-namespace {
-
-bool TakeWeekday(TimeScanner& scanner) {
-    for (int day = 0; day < 7; ++day)
-        if (scanner.Take(DayOfWeekToText(static_cast<DayOfWeek>(day)))) return true;
-    return false;
-}
-
-bool TakeMonth(TimeScanner& scanner, Month& month) {
-    for (int number = 1; number <= 12; ++number) {
-        month = static_cast<Month>(number);
-        if (scanner.Take(MonthToText(month))) return true;
-    }
-    return false;
-}
-
-bool TakeDate(TimeScanner& scanner, DateRecord& date) {
-    return TakeWeekday(scanner) && scanner.Take(", ") && scanner.TakeTwoDigits(date.day) && scanner.Take(" ") &&
-           TakeMonth(scanner, date.month) && scanner.Take(" ") && scanner.TakeYear(date.year);
-}
-
-}  // namespace
 
 TimeObject TextToTime(UStringRef<UTF8> text) {
     TimeScanner scanner(text);

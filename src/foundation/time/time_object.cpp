@@ -1,6 +1,7 @@
 #include "foundation/time/time_object.h"
 
 #include <algorithm>
+#include <ctime>
 #include <limits>
 
 void TimeOfDay::SetSecondOfDay(long long seconds) {
@@ -19,6 +20,14 @@ TimeOfDay& TimeOfDay::operator+=(long long seconds) {
 TimeOfDay& TimeOfDay::operator-=(long long seconds) {
     SetSecondOfDay(SecondOfDay() - seconds % kSecondsInDay);
     return *this;
+}
+
+TimeZone TimeZone::Local() {
+    // localtime_r alone may go on using the zone of its first call.
+    tzset();
+    std::time_t const now = std::time(nullptr);
+    std::tm fields{};
+    return localtime_r(&now, &fields) ? TimeZone(static_cast<int>(fields.tm_gmtoff)) : TimeZone();
 }
 
 TimeObject::TimeObject(Instant instant, TimeZone zone) : zone_(zone) {

