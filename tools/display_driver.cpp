@@ -1,5 +1,6 @@
 #include "tools/display_driver.h"
 
+#include <X11/Xutil.h>
 #include <X11/extensions/XTest.h>
 
 #include <algorithm>
@@ -152,6 +153,58 @@ void DisplayDriver::Drag(Window shell, std::string const& path, double from, dou
     Button(button, true);
     XTestFakeMotionEvent(display_.get(), DefaultScreen(display_.get()), area.MiddleX(), at(to), CurrentTime);
     Button(button, false);
+}
+
+void DisplayDriver::Type(std::string const& key) {
+    auto press = [this](std::string const& name, bool down) {
+        KeyCode const code = XKeysymToKeycode(display_.get(), XStringToKeysym(name.c_str()));
+        if (code == 0) throw std::runtime_error("no key " + name);
+        XTestFakeKeyEvent(display_.get(), code, down, CurrentTime);
+    };
+    bool const shifted = key.starts_with("Shift+");
+    if (shifted) press("Shift_L", true);
+    for (bool down : {true, false}) press(key.substr(shifted ? 6 : 0), down);
+    if (shifted) press("Shift_L", false);
+    XFlush(display_.get());
+}
+
+void DisplayDriver::TurnWheel(Window shell, std::string const& path, bool up) {
+    Window const window = WindowOf(shell, path);
+    Area const area = VisibleArea(display_.get(), window);
+    PointAt(window, area.MiddleX(), area.MiddleY());
+    for (bool down : {true, false}) Button(up ? Button4 : Button5, down);
+}
+
+void DisplayDriver::Resize(Window window, unsigned width, unsigned height) {
+    XResizeWindow(display_.get(), window, width, height);
+    XFlush(display_.get());
+}
+
+void DisplayDriver::WorkIn(std::string const& name) {
+    Window const window = XCreateSimpleWindow(display_.get(), root_, 100, 100, 1000, 800, 0, 0, 0);
+    XClassHint hint = {const_cast<char*>(name.c_str()), const_cast<char*>("Work")};
+    XSetClassHint(display_.get(), window, &hint);
+    XMapWindow(display_.get(), window);
+    auto const has_keyboard = [&] {
+        if (!IsOnScreen(display_.get(), window)) return false;
+        PressOn(window, VisibleArea(display_.get(), window));
+        return ActiveWindow() == name;
+    };
+    if (!WaitUntil(kPatience, has_keyboard)) throw std::runtime_error(name + " does not get the keyboard");
+}
+
+std::string DisplayDriver::UppermostWindow() {
+    auto frames = ChildrenOf(display_.get(), root_);
+    for (auto frame = frames.rbegin(); frame != frames.rend(); ++frame) {
+        if (!IsOnScreen(display_.get(), *frame)) continue;
+        for (Window window = *frame; window != None;) {
+            // Which only windows have that are managed.
+            if (!ReadProperty(window, "WM_STATE").empty()) return NameOf(display_.get(), window);
+            auto const inside = ChildrenOf(display_.get(), window);
+            window = inside.empty() ? None : inside.back();
+        }
+    }
+    return {};
 }
 
 std::string DisplayDriver::ReadText(Window shell, std::string const& path) {

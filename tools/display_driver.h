@@ -68,8 +68,19 @@ class DisplayDriver {
     void SelectLine(Window shell, std::string const& path, size_t line);
     // Whether two of these lines look the same.
     bool LinesLookAlike(Window shell, std::string const& path, size_t one, size_t other);
+    // Types a key by its name (X11/keysymdef.h), as in "Return" or "Shift+Tab", wherever the keyboard is.
+    void Type(std::string const& key);
+    // Turns the wheel once over a widget.
+    void TurnWheel(Window shell, std::string const& path, bool up);
     // A drag with some button along a widget's height between two fractions of it.
     void Drag(Window shell, std::string const& path, double from, double to, unsigned button = Button1);
+
+    // As with the mouse at its frame.
+    void Resize(Window window, unsigned width, unsigned height);
+    // Opens a window of that name in which the user then works: clicks into it until it has the keyboard.
+    void WorkIn(std::string const& name);
+    // The name of the window that covers the others.
+    std::string UppermostWindow();
 
     // Closes the window as its close button does: through the window manager, or in its stead when none runs.
     void RequestClose(Window window);

@@ -81,6 +81,10 @@ void ScenarioPlayer::PlayLine(ScenarioLine const& line) {
         {"press", &ScenarioPlayer::Press},
         {"select", &ScenarioPlayer::Select},
         {"drag", &ScenarioPlayer::Drag},
+        {"key", &ScenarioPlayer::Type},
+        {"wheel", &ScenarioPlayer::TurnWheel},
+        {"resize", &ScenarioPlayer::Resize},
+        {"work", &ScenarioPlayer::Work},
         {"screenshot", &ScenarioPlayer::Screenshot},
         {"open", &ScenarioPlayer::Open},
         {"close", &ScenarioPlayer::Close},
@@ -174,6 +178,7 @@ std::string ScenarioPlayer::Look(ScenarioLine const& line, std::string const& ke
     if (what == "widget") return Screen().ReadResource(window_, line.Word(2), key);
     if (what == "property") return Screen().ReadProperty(window_, key);
     if (what == "active") return Screen().ActiveWindow();
+    if (what == "uppermost") return Screen().UppermostWindow();
     if (what == "sensitive") return Joined(Screen().SensitiveControls(window_));
     if (what == "text") return Screen().ReadText(window_, line.Word(2));
     if (what != "rows") throw std::runtime_error("nothing to wait for");
@@ -199,6 +204,25 @@ void ScenarioPlayer::Drag(ScenarioLine const& line) {
     if (Instructs("drag " + line.Word(1))) return;
     Screen().Drag(window_, line.Word(1), std::stod(line.Word(2)), std::stod(line.Word(3)),
                   static_cast<unsigned>(std::stoul(line.Value("button", "1"))));
+}
+
+void ScenarioPlayer::Type(ScenarioLine const& line) {
+    for (size_t i = 1; i < line.words.size(); ++i) {
+        if (!Instructs("type the key " + line.Word(i))) Screen().Type(line.Word(i));
+    }
+}
+
+void ScenarioPlayer::TurnWheel(ScenarioLine const& line) {
+    if (!Instructs("turn the wheel over " + line.Word(1))) Screen().TurnWheel(window_, line.Word(1), line.Has("up"));
+}
+
+void ScenarioPlayer::Resize(ScenarioLine const& line) {
+    auto const pixels = [&](size_t word) { return static_cast<unsigned>(std::stoul(line.Word(word))); };
+    if (!options_.interactive) Screen().Resize(window_, pixels(1), pixels(2));
+}
+
+void ScenarioPlayer::Work(ScenarioLine const& line) {
+    if (!options_.interactive) Screen().WorkIn(line.Word(1));
 }
 
 void ScenarioPlayer::Screenshot(ScenarioLine const& line) {

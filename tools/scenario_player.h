@@ -56,6 +56,10 @@ class ScenarioPlayer {
     void Press(ScenarioLine const& line);
     void Select(ScenarioLine const& line);
     void Drag(ScenarioLine const& line);
+    void Type(ScenarioLine const& line);
+    void TurnWheel(ScenarioLine const& line);
+    void Resize(ScenarioLine const& line);
+    void Work(ScenarioLine const& line);
     void Screenshot(ScenarioLine const& line);
     void Open(ScenarioLine const& line);
     void Close(ScenarioLine const& line);

@@ -10,7 +10,7 @@ packages=(
     libgtest-dev libgmock-dev                                 # its tests
     libxtst-dev libpng-dev libpugixml-dev                     # its scripted client
     libxres-dev                                               # its long runs
-    xvfb openbox locales xfonts-base                          # the displays and languages that they run with
+    xvfb openbox metacity locales xfonts-base                          # the displays and languages that they run with
     python3                                                   # the translators' tools
     libbenchmark-dev libexpat1-dev                            # its benchmarks
 )

@@ -31,15 +31,17 @@ VirtualDisplay::VirtualDisplay()
     if (name_ == ":") throw std::runtime_error("Xvfb does not start");
 }
 
-void VirtualDisplay::StartWindowManager() {
+void VirtualDisplay::StartWindowManager(std::string const& program) {
     // Its properties on the root window appear before it manages windows; what it starts itself comes after.
     std::string const ready = "managing-windows";
     manager_announcement_ = MakePipe();
-    Launch launch{"openbox", {"--startup", "echo " + ready}, {{"DISPLAY", name_}}};
+    bool const announces = program == "openbox";
+    Launch launch{program, {}, {{"DISPLAY", name_}}};
+    if (announces) launch.arguments = {"--startup", "echo " + ready};
     window_manager_ = std::make_unique<ChildProcess>(launch, -1, manager_announcement_.writing.Get());
     manager_announcement_.writing.Close();
     std::string line;
-    while (line != ready) {
+    while (announces && line != ready) {
         line = ReadLine(manager_announcement_.reading);
         if (line.empty()) throw std::runtime_error("openbox does not start");
     }

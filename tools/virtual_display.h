@@ -16,8 +16,8 @@ class VirtualDisplay {
     // As in DISPLAY.
     std::string const& Name() const { return name_; }
 
-    // Starts openbox and returns once it manages the windows.
-    void StartWindowManager();
+    // Starts openbox and returns once it manages the windows. Another manager may be named; that one comes when it comes.
+    void StartWindowManager(std::string const& program = "openbox");
 
     // Ends the server as a crash would.
     void Kill();

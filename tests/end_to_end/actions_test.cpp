@@ -66,6 +66,14 @@ TEST_F(Actions, TenThousandLinesScroll) {
         select row 1
         click form.actionDetails
         wait window ActionDetailsDialog
+        wheel form.actiondetails down
+        wait widget form.actiondetails displayPosition=30
+        key Up
+        wait widget form.actiondetails displayPosition=20
+        key End
+        wait widget form.actiondetails displayPosition=999??
+        key Page_Up Home
+        wait widget form.actiondetails displayPosition=0
         drag form.actiondetails.vScrollbar 0 0.5
         wait widget form.actiondetails displayPosition=[45]????
         drag form.actiondetails.vScrollbar 0.5 0.9 button=3
