@@ -212,10 +212,10 @@ bool DialogWindow::HandleKey(XEvent const& event) {
     static KeyCode held = 0;
     auto key = event.xkey;
     if (event.type == KeyRelease) return held = 0, false;
-    bool const again = std::exchange(held, static_cast<KeyCode>(key.keycode)) == key.keycode;
+    bool const repeated = std::exchange(held, static_cast<KeyCode>(key.keycode)) == key.keycode;
     KeySym const meaning = XLookupKeysym(&key, (key.state & ShiftMask) != 0 ? 1 : 0);
     bool const backwards = meaning == XK_Tab && (key.state & ShiftMask) != 0;
-    return focus_.HandleKey(backwards ? XK_ISO_Left_Tab : meaning, again);
+    return focus_.HandleKey(backwards ? XK_ISO_Left_Tab : meaning, repeated);
 }
 
 void DialogWindow::HandleButton(XEvent const& event) {
