@@ -216,6 +216,7 @@ void RemoveQuietModeDialog() {
 }
 void UpdateActionRequestDialog() {}
 void DrawAttentionToActionRequestDialog() {}
+void ExpectActionRequestDialog() {}
 void RefreshActionRequestDialog() {}
 void ShowMessageDialog(MessageRequest const&) {}
 void RemoveMessageDialog(unsigned long long) {}

@@ -129,6 +129,7 @@ void HandleCommand(UICommand const& command) {
         case UICommandType::QuietNoticeClosed:
             return EnableActionRequestDialog();
         case UICommandType::Show:
+            ExpectActionRequestDialog();
             return ShowActionRequestDialog(false, m_remindInterval, m_snoozable);
     }
 }

@@ -16,6 +16,7 @@ namespace {
 struct Dialog {
     ActionRequestWindow window;
     bool enabled = false;
+    bool expected = false;  // The user waits for it.
     bool update_wanted = false;
     std::vector<unsigned long long> ids;  // Of the rows, in their order.
     int selected_row = -1;
@@ -156,7 +157,7 @@ ActionRequestWindow::Handlers Handlers() {
             .choice = [](int row) { dialog.selected_choice = row; }};
 }
 
-void Build() {
+void Build(bool asked_for) {
     ForgetSelectionBeyond(actions.size());
     FetchIDs();
     auto const contents = MakeActionRequestContents(actions, SelectedID(), dialog.snoozable);
@@ -166,16 +167,21 @@ void Build() {
     dialog.highlighted_row = -1;
     RebuildRows();
     ShowContents(contents);
-    dialog.window.Present();
+    dialog.window.Present(asked_for);
 }
 
 }  // namespace
 
 void ShowActionRequestDialog(bool, TimeInterval const& remind_interval, bool snoozable) {
+    bool const expected = std::exchange(dialog.expected, false);
     if (!display || dialog.window.IsOpen()) return;
     dialog.default_interval = remind_interval;
     dialog.snoozable = snoozable;
-    dialog.window.Build(Build);
+    dialog.window.Build([expected] { Build(expected); });
+}
+
+void ExpectActionRequestDialog() {
+    dialog.expected = true;
 }
 
 void DrawAttentionToActionRequestDialog() {

@@ -14,6 +14,9 @@
 // tells whether the user may snooze at all. The first argument is unused.
 void ShowActionRequestDialog(bool, TimeInterval const& remind_interval, bool snoozable);
 
+// The user has asked for the dialog: if the next call shows it, it takes the keyboard.
+void ExpectActionRequestDialog();
+
 // Asks the window manager to draw the user's attention to the dialog, as to one that has something new to show, until it
 // gets the keyboard.
 void DrawAttentionToActionRequestDialog();

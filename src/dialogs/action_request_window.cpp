@@ -79,11 +79,11 @@ void ActionRequestWindow::OpenSnoozePart(Handlers& handlers) {
     controls_[kSnooze] = {snooze, &ActionRequestContents::snooze_button};
 }
 
-void ActionRequestWindow::Present() {
+void ActionRequestWindow::Present(bool asked_for) {
     window_.Realize();
     LayOut();
     for (auto const* pane : {&action_list_, &snooze_list_}) ScrollSelectedItemIntoView(pane->Viewport(), pane->List());
-    window_.Present({.dialog = false});
+    window_.Present({.dialog = false, .asked_for = asked_for});
 }
 
 void ActionRequestWindow::ShowTexts(ActionRequestContents const& contents, unsigned long long const* described) {

@@ -34,7 +34,7 @@ class ActionRequestWindow {
     // Makes the widgets with the texts of the contents; the lists are empty yet.
     void Open(ActionRequestContents const& contents, Handlers handlers);
     // Puts everything in its place, where it stays whatever is shown from then on, and shows the window.
-    void Present();
+    void Present(bool asked_for);
     void Close() { window_.Close(); }
     void SetUrgent() { window_.SetUrgent(); }
 

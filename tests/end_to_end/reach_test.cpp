@@ -74,5 +74,9 @@ TEST_P(UnderManager, EverythingIsDecidedWithoutAMouse) {
         key Shift+Tab Shift+Tab Shift+Tab Down Tab Return
         expect RemindTime TimeObject=+5m
         expect RemindInterval TimeInterval=PT5M
+        wait active editor
+        open
+        wait window ActionRequestDialog
+        wait active ActionRequestDialog
     )");
 }

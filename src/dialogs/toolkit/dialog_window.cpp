@@ -66,6 +66,16 @@ bool HasWindowManager() {
            (root.all_event_masks & SubstructureRedirectMask) != 0;
 }
 
+// Whether the key has been held down since its last press, in whichever window that was. The release may have gone to
+// another program: after a while without a press there was one.
+bool IsRepeated(XKeyEvent const& key) {
+    constexpr Time kLongestPause = 1000;  // Milliseconds, above the delay before a key repeats.
+    static XKeyEvent last{};
+    bool const held = last.type == KeyPress && last.keycode == key.keycode && key.time - last.time < kLongestPause;
+    last = key;
+    return held && key.type == KeyPress;
+}
+
 // What a window manager would do. The window may vanish before the server hears of it, which is no error then.
 void TakeKeyboard(Widget shell, Time time) {
     auto const handler = XSetErrorHandler([](Display*, XErrorEvent*) { return 0; });
@@ -209,10 +219,9 @@ void DialogWindow::SetUrgent() {
 }
 
 bool DialogWindow::HandleKey(XEvent const& event) {
-    static KeyCode held = 0;
     auto key = event.xkey;
-    if (event.type == KeyRelease) return held = 0, false;
-    bool const repeated = std::exchange(held, static_cast<KeyCode>(key.keycode)) == key.keycode;
+    bool const repeated = IsRepeated(key);
+    if (event.type == KeyRelease) return false;
     KeySym const meaning = XLookupKeysym(&key, (key.state & ShiftMask) != 0 ? 1 : 0);
     bool const backwards = meaning == XK_Tab && (key.state & ShiftMask) != 0;
     return focus_.HandleKey(backwards ? XK_ISO_Left_Tab : meaning, repeated);
