@@ -164,6 +164,20 @@ class DialogsTest : public testing::Test {
     }
 };
 
+TEST_F(DialogsTest, AnotherProgramThatIsStillAnsweredOutlivesTheDialog) {
+    Window const asking = XCreateSimpleWindow(display, DefaultRootWindow(display), 0, 0, 1, 1, 0, 0, 0);
+    Show();
+    XtRegisterDrawable(display, asking, ActionRequestDialogShell());
+    HideActionRequestDialog();
+    XEvent gone{};
+    gone.type = PropertyNotify;
+    gone.xproperty.display = display;
+    gone.xproperty.window = asking;
+    EXPECT_TRUE(XtDispatchEvent(&gone)) << "nobody else has it";
+    XtUnregisterDrawable(display, asking);
+    XDestroyWindow(display, asking);
+}
+
 MessageRequest Message(unsigned long long id, NullOr<TimeInterval> timeout = {}) {
     MessageRequest request;
     request.id = id;

@@ -60,6 +60,15 @@ bool FilterButton(XEvent const& event) {
     return event.xbutton.button >= Button4 && event.xbutton.button <= Button5 + 2;
 }
 
+// Whoever is answered what a shell is made of, or pastes what was selected in a text, has a window of its own that the
+// toolkit listens to in the widget's name, also when the dialog has gone meanwhile. Nothing but the widget's address is
+// safe to look at then.
+bool FilterProperty(XEvent const& event) {
+    Widget const listener = XtWindowToWidget(display, event.xproperty.window);
+    auto const listens = [listener](DialogWindow const* dialog) { return dialog->MayListen(listener); };
+    return listener && listener != qenHidden && std::ranges::none_of(open_windows, listens);
+}
+
 bool HasWindowManager() {
     XWindowAttributes root;
     return XGetWindowAttributes(display, DefaultRootWindow(display), &root) != 0 &&
@@ -227,6 +236,10 @@ bool DialogWindow::HandleKey(XEvent const& event) {
     return focus_.HandleKey(backwards ? XK_ISO_Left_Tab : meaning, repeated);
 }
 
+bool DialogWindow::MayListen(Widget widget) const {
+    return widget == shell_ || std::ranges::find(texts_, widget) != texts_.end();
+}
+
 void DialogWindow::HandleButton(XEvent const& event) {
     unsigned const button = event.xbutton.button;
     if (button == Button4 || button == Button5)
@@ -292,4 +305,5 @@ void RegisterDialogActions() {
     XkbSetDetectableAutoRepeat(display, True, nullptr);
     for (int type : {KeyPress, KeyRelease}) BeforeDispatch(type, FilterKey);
     BeforeDispatch(ButtonPress, FilterButton);
+    BeforeDispatch(PropertyNotify, FilterProperty);
 }

@@ -115,6 +115,8 @@ class DialogWindow {
     // What the toolkit hands on of keys and the wheel; whether they were meant for this window.
     bool HandleKey(_XEvent const& event);
     void HandleButton(_XEvent const& event);
+    // Whether the toolkit may hand events of other programs' windows to this widget: it is one that stands here.
+    bool MayListen(Widget widget) const;
 
     // Destroys the window, if it is open.
     void Close();
