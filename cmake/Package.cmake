@@ -20,7 +20,9 @@ the agent what that person decided: take them, cancel them, or put them off.
 It works on every desktop that runs the X Window System, and comes with
 translations into German, French and Japanese.")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# The checker of translations alone needs it, which no desktop does.
+# A server's built-in fonts are Latin; letters that they lack show as wrong ones.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS xfonts-base)
+# The checker of translations and the example of a client alone need it, which no desktop does.
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS python3)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 # Of directories and files, whatever the builder's umask is.

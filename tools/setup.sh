@@ -1,23 +1,33 @@
 #!/bin/bash
 # Makes a Debian 12 machine able to build, test and show the program: installs the packages it lacks, and only those.
 #
-#     tools/setup.sh [--check | --package]      # also what the continuous checks or the Debian package need
+#     tools/setup.sh               # what building and testing need
+#     tools/setup.sh --demo        # only what the demonstration needs
+#     tools/setup.sh --package     # only what the Debian package needs
+#     tools/setup.sh --check       # also what the continuous checks need
 set -euo pipefail
 
 packages=(
     g++ cmake ninja-build pkg-config
     libx11-dev libxt-dev libxaw7-dev                          # the program
-    libgtest-dev libgmock-dev                                 # its tests
-    libxtst-dev libpng-dev libpugixml-dev                     # its scripted client
-    libxres-dev                                               # its long runs
-    xvfb openbox metacity locales xfonts-base                          # the displays and languages that they run with
-    python3                                                   # the translators' tools
-    libbenchmark-dev libexpat1-dev                            # its benchmarks
+)
+playing=(
+    libxtst-dev libpng-dev libpugixml-dev                     # the scripted client
+    xvfb openbox locales xfonts-base                          # the displays and languages that it plays with
+)
+testing=(
+    libgtest-dev libgmock-dev                                 # the tests
+    metacity                                                  # another window manager that they run with
+    libxres-dev                                               # the long runs
+    python3                                                   # the translators' tools, the example of a client
+    libbenchmark-dev libexpat1-dev                            # the benchmarks
 )
 packaging=(dpkg-dev file)
 case ${1-} in
-    --check) packages+=(clang-format clang libclang-rt-14-dev "${packaging[@]}") ;;
+    --demo) packages+=("${playing[@]}") ;;
     --package) packages+=("${packaging[@]}") ;;
+    --check) packages+=("${playing[@]}" "${testing[@]}" "${packaging[@]}" clang-format clang libclang-rt-14-dev) ;;
+    *) packages+=("${playing[@]}" "${testing[@]}") ;;
 esac
 
 missing=()

@@ -1,4 +1,5 @@
 """The translators' tools, each run as its user runs it."""
+import os
 import pathlib
 import subprocess
 import sys
@@ -59,7 +60,7 @@ class TranslationTools(unittest.TestCase):
             self.assertEqual((checked.returncode, checked.stdout, checked.stderr), (0, "", ""))
 
     def test_each_fault_is_reported_once_with_its_line(self):
-        texts = b"# Texts\n\nOK\nNow\n{days} days\nStop.  Go.\nTitle\nSearch:\nClose\nHide\n"
+        texts = b"# Texts\n\nOK\nStop.  Go.\n{days} days\nNow\nTitle\nSearch:\nClose\nHide\n"
         template = self.write("template.xlat", texts)
         faults = {
             b"\xef\xbb\xbf# Deutsch": "a byte-order mark",
@@ -77,15 +78,23 @@ class TranslationTools(unittest.TestCase):
         }
         file = self.write("de.xlat", b"\n".join(faults))
         checked = run("check_translation", "--template", template, "--encoding", "ISO-8859-1", file)
-        expected = [(f"{file}: ", 'no line for "Now" (line 4'), (f"{file}: ", 'no line for "Stop.  Go." (line 6')]
+        expected = [(f"{file}: ", 'no line for "Stop.  Go." (line 4'), (f"{file}: ", 'no line for "Now" (line 6')]
         for number, messages in enumerate(faults.values(), 1):
-            for message in sorted([messages] if isinstance(messages, str) else messages or ()):
+            for message in [messages] if isinstance(messages, str) else messages or ():
                 expected.append((f"{file}:{number}: ", message))
         found = checked.stdout.splitlines()
         self.assertEqual((checked.returncode, len(found)), (1, len(expected)), checked.stdout + checked.stderr)
-        for start, message in expected:
-            matching = [line for line in found if line.startswith(start) and message in line]
-            self.assertEqual(1, len(matching), (start, message, checked.stdout))
+        for line, (start, message) in zip(found, expected):
+            self.assertTrue(line.startswith(start) and message in line, (start, message, line))
+        brand = run("check_translation", "--template", template, "--encoding", "ISO-8859-1", "--partial", file)
+        self.assertEqual(brand.stdout.splitlines(), found[2:])
+
+    def test_who_reads_no_further_gets_no_traceback(self):
+        reading, writing = os.pipe()
+        os.close(reading)
+        command = [sys.executable, TOOLS / "check_translation", TRANSLATIONS / "template.xlat"]
+        self.assertEqual(subprocess.run(command, stdout=writing, stderr=subprocess.PIPE, check=False).stderr, b"")
+        os.close(writing)
 
     def test_what_cannot_be_read_ends_with_two(self):
         for arguments in ([], [self.directory / "none.xlat"], ["--encoding", "none", TRANSLATIONS / "de.xlat"]):
