@@ -121,6 +121,6 @@ void ProcessMessagesFromClient() try {
 }
 
 void RemoveAction(unsigned long long id) {
-    auto const position = actions.Find(id);
-    if (position < actions.size()) actions.Erase(position);
+    auto const action = actions.Find(id);
+    if (action != actions.end()) actions.Erase(action);
 }

@@ -53,7 +53,8 @@ std::string Key() {
     std::string key = now.asks + ";" + (m_askedAbout ? Short(*m_askedAbout) : "") + ";";
     for (bool is : {now.enabled, now.question, now.notice, now.details, now.open, now.shown, now.said, inQuietMode})
         key += is ? '1' : '0';
-    key += std::to_string(actions.TakeAllCursor().value_or(9));
+    auto const cursor = actions.TakeAllCursor();
+    key += cursor ? std::to_string(std::distance(*cursor, actions.end())) : "9";
     for (auto const& action : actions) key += Short(action) + (action.force_run ? "! " : " ");
     for (auto const& [type, id] : now.presses) key += std::to_string(100 * static_cast<unsigned>(type) + id) + " ";
     for (auto const& text : now.accepted) key += "," + text;

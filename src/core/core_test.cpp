@@ -137,6 +137,8 @@ TEST_F(CoreTest, WhatIsDecidedIsAskedAboutAndAnswered) {
         {"a withdrawn action is not answered", "+1a take1 -1 yes", "asked1a ", ""},
         {"a take-all walks on over what has changed", "+1a +2b +3 +4d all yes -1 -3 +1a yes yes yes",
          "asked1a asked2b asked4d asked1a taken2 taken4 taken1 ", ""},
+        {"nor is what comes where its question was taken", "+1a +2b all yes -2 +3c yes yes",
+         "asked1a asked2b asked3c taken1 taken3 ", ""},
         {"over an empty list nothing is put off", "snooze", "", ""},
         {"a type that nobody knows is nothing", "+1 unknown", "", "1 "},
     };

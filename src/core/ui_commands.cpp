@@ -15,9 +15,11 @@ void SendActionTaken(ActionRequest const& action, bool cancel) {
     SendToClient(ClientWriter(), ActionTaken{.is_cancel = cancel, .is_offer = false, .id = action.id});
 }
 
-void CompleteAction(std::size_t position, bool cancel) {
-    SendActionTaken(actions[position], cancel);
-    actions.Erase(position);
+using Pending = PendingActions::Iterator;
+
+void CompleteAction(Pending action, bool cancel) {
+    SendActionTaken(*action, cancel);
+    actions.Erase(action);
     UpdateActionRequestDialog();
 }
 
@@ -29,32 +31,31 @@ void TakeAllActions() {
 }
 
 // Returns whether it has put the action's question.
-bool RequestConfirmationIfNeeded(std::size_t position) {
-    auto const& action = actions[position];
+bool RequestConfirmationIfNeeded(ActionRequest const& action) {
     if (!action.pre_action_message) return false;
     m_askedAbout = action;
     ShowConfirmationRequestDialog(action.id);
     return true;
 }
 
-void TakeAllFrom(std::size_t position) {
-    for (; position < actions.size(); ++position)
-        if (RequestConfirmationIfNeeded(position)) return actions.SetTakeAllCursor(position + 1);
+void TakeAllFrom(Pending action) {
+    for (; action != actions.end(); ++action)
+        if (RequestConfirmationIfNeeded(*action)) return actions.SetTakeAllCursor(action);
     TakeAllActions();
 }
 
 void TakeOne(unsigned long long id) {
-    auto const position = actions.Find(id);
-    if (position < actions.size()) {
-        if (RequestConfirmationIfNeeded(position)) return;
-        CompleteAction(position, false);
+    auto const action = actions.Find(id);
+    if (action != actions.end()) {
+        if (RequestConfirmationIfNeeded(*action)) return;
+        CompleteAction(action, false);
     }
     EnableActionRequestDialog();
 }
 
 void CancelOne(unsigned long long id) {
-    auto const position = actions.Find(id);
-    if (position < actions.size()) CompleteAction(position, true);
+    auto const action = actions.Find(id);
+    if (action != actions.end()) CompleteAction(action, true);
     EnableActionRequestDialog();
 }
 
@@ -63,11 +64,11 @@ bool SaysTheSame(ActionRequest const& one, ActionRequest const& other) {
 }
 
 void AcceptOne(ActionRequest const& asked) {
-    auto const position = actions.Find(asked.id);
-    if (position < actions.size()) {
-        if (SaysTheSame(actions[position], asked))
-            CompleteAction(position, false);
-        else if (RequestConfirmationIfNeeded(position))
+    auto const action = actions.Find(asked.id);
+    if (action != actions.end()) {
+        if (SaysTheSame(*action, asked))
+            CompleteAction(action, false);
+        else if (RequestConfirmationIfNeeded(*action))
             return;
     }
     EnableActionRequestDialog();
@@ -84,7 +85,7 @@ void AcceptConfirmation() {
 // Abandons the whole take-all, what was already confirmed included: that is meant.
 void DeclineConfirmation() {
     m_askedAbout.reset();
-    actions.SetTakeAllCursor({});
+    actions.EndTakeAll();
     EnableActionRequestDialog();
 }
 
@@ -112,7 +113,7 @@ void HandleCommand(UICommand const& command) {
     if (m_askedAbout && DecidesAboutActions(command.Type())) return;
     switch (command.Type()) {
         case UICommandType::TakeAll:
-            return TakeAllFrom(0);
+            return TakeAllFrom(actions.begin());
         case UICommandType::ShowDetails:
             return ShowActionDetailsDialog(command.ActionID());
         case UICommandType::Cancel:

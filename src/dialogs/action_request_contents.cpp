@@ -31,7 +31,7 @@ ActionRequestContents EmptyContents() {
 
 ActionRequestStore StoreOf(PendingActions const& pending) {
     ActionRequestStore store;
-    store.UpdateActions(pending.Requests());
+    store.UpdateActions(pending.Copies());
     return store;
 }
 

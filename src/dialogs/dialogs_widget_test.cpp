@@ -307,7 +307,7 @@ TEST_F(DialogsTest, TheProposedChoiceIsHighlightedAndInView) {
 
 TEST_F(DialogsTest, AConfirmationIsAnsweredOnceAndIsNeverNarrowerThanItsExplanation) {
     Pend(2, [](ActionRequest& action) { action.pre_action_message = SharedUString<UTF8>(UStringRef<UTF8>("Sure?")); });
-    m_askedAbout = actions[1];
+    m_askedAbout = *std::next(actions.begin());
     m_askedAbout->SetTitle("Another of its ID");
     for (auto [button, answer] : {std::pair("form.ok", UICommandType::ConfirmationAccepted),
                                   {"form.cancel", UICommandType::ConfirmationDeclined}}) {

@@ -28,8 +28,8 @@ void RefreshOfTheActionRequestDialog(benchmark::State& state) {
     for (std::int64_t i = 1; i <= state.range(0); ++i) actions.Append(Action(i));
     ShowActionRequestDialog(false, TimeInterval::Minutes(15), true);
     for (auto _ : state) {
-        actions.Append(ActionRequest(actions[0]));
-        actions.Erase(0);
+        actions.Append(ActionRequest(*actions.begin()));
+        actions.Erase(actions.begin());
         UpdateActionRequestDialog();
         RefreshActionRequestDialog();
         XFlush(display);

@@ -3,24 +3,41 @@
 #include "channel/unix_pipe.h"
 #include "foundation/base/never_destroyed.h"
 
-std::size_t PendingActions::Find(unsigned long long id) const {
-    auto found = std::find_if(begin(), end(), [id](ActionRequest const& request) { return request.id == id; });
-    return static_cast<std::size_t>(found - begin());
+PendingActions::Iterator PendingActions::Find(unsigned long long id) const {
+    auto const first = places_.lower_bound({id, 0});
+    return first != places_.end() && first->first == id ? requests_.find(first->second) : requests_.end();
 }
 
 ActionRequest const* PendingActions::FindAction(unsigned long long id) const {
-    auto position = Find(id);
-    return position < size() ? &requests_[position] : nullptr;
+    auto const found = Find(id);
+    return found == end() ? nullptr : &*found;
 }
 
-void PendingActions::Erase(std::size_t position) {
-    requests_.erase(begin() + static_cast<std::ptrdiff_t>(position));
-    if (take_all_cursor_ && position < *take_all_cursor_) --*take_all_cursor_;
+void PendingActions::Append(ActionRequest request) {
+    Place const place = next_place_++;
+    places_.emplace(request.id, place);
+    requests_.emplace_hint(requests_.end(), place, std::move(request));
+}
+
+PendingActions::Iterator PendingActions::Erase(Iterator request) {
+    Requests::const_iterator const entry = request;
+    places_.erase({entry->second.id, entry->first});
+    return Iterator(requests_.erase(entry));
 }
 
 void PendingActions::Clear() {
     requests_.clear();
-    take_all_cursor_.reset();
+    places_.clear();
+    EndTakeAll();
+}
+
+std::optional<PendingActions::Iterator> PendingActions::TakeAllCursor() const {
+    if (!take_all_asked_) return std::nullopt;
+    return requests_.upper_bound(*take_all_asked_);
+}
+
+void PendingActions::SetTakeAllCursor(Iterator asked) {
+    take_all_asked_ = static_cast<Requests::const_iterator>(asked)->first;
 }
 
 UIMessageQueue& readQ = NeverDestroyed<UIMessageQueue>();

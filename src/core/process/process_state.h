@@ -1,9 +1,11 @@
 #pragma once
 
-#include <algorithm>
 #include <cstddef>
+#include <cstdint>
+#include <iterator>
+#include <map>
 #include <optional>
-#include <span>
+#include <set>
 #include <utility>
 #include <vector>
 
@@ -14,48 +16,63 @@
 
 // The action requests that the client offers and the user has not yet answered, in arrival order. Main thread only.
 //
-// An ID may stand in it more than once; looking one up finds the first.
+// An ID may stand in it more than once; looking one up finds the first. Each request keeps the place, a number, that it
+// was given when it came: whatever joins or leaves, nobody moves. What is done to one request takes time that grows with
+// the logarithm of their number.
 class PendingActions {
+    using Place = std::uint64_t;
+    using Requests = std::map<Place, ActionRequest>;
+
   public:
-    using Iterator = std::vector<ActionRequest>::const_iterator;
+    // Walks the requests; valid until its own leaves.
+    class Iterator : public Requests::const_iterator {
+      public:
+        using value_type = ActionRequest;
+        using pointer = ActionRequest const*;
+        using reference = ActionRequest const&;
+
+        Iterator(Requests::const_iterator place) : Requests::const_iterator(place) {}
+        reference operator*() const { return Requests::const_iterator::operator*().second; }
+        pointer operator->() const { return &**this; }
+    };
 
     Iterator begin() const { return requests_.begin(); }
     Iterator end() const { return requests_.end(); }
     std::size_t size() const { return requests_.size(); }
     bool empty() const { return requests_.empty(); }
-    ActionRequest const& operator[](std::size_t position) const { return requests_[position]; }
 
-    // The position of the first request with this ID, or size() when there is none.
-    std::size_t Find(unsigned long long id) const;
-    // That request itself, or null. Valid until the list changes.
+    // The first request with this ID, or end().
+    Iterator Find(unsigned long long id) const;
+    // The same, or null. Valid until it leaves.
     ActionRequest const* FindAction(unsigned long long id) const;
-    // All of them. Valid until the list changes.
-    std::span<ActionRequest const> Requests() const { return requests_; }
+    // Copies of all of them.
+    std::vector<ActionRequest> Copies() const { return {begin(), end()}; }
 
-    void Append(ActionRequest request) { requests_.push_back(std::move(request)); }
-    void Erase(std::size_t position);
-    // Erases the requests for which `leaves` is true; it may be asked twice about each. Linear in the list.
+    void Append(ActionRequest request);
+    // Returns the one behind it.
+    Iterator Erase(Iterator request);
+    // Erases the requests for which `leaves` is true.
     template <class Leaves>
     void EraseIf(Leaves leaves);
     void Clear();
 
-    // Where the take-all in progress goes on: at the first action that it has not yet come to, at most size(). It stays
-    // in front of that action whatever leaves. Null while no take-all is in progress, and after Clear().
-    std::optional<std::size_t> TakeAllCursor() const { return take_all_cursor_; }
-    void SetTakeAllCursor(std::optional<std::size_t> position) { take_all_cursor_ = position; }
+    // Where the take-all in progress goes on: at the first action that it has not yet come to, or end(). Null while no
+    // take-all is in progress, and after Clear().
+    std::optional<Iterator> TakeAllCursor() const;
+    // Puts it behind the action that is being asked about.
+    void SetTakeAllCursor(Iterator asked);
+    void EndTakeAll() { take_all_asked_.reset(); }
 
   private:
-    std::vector<ActionRequest> requests_;
-    std::optional<std::size_t> take_all_cursor_;
+    Requests requests_;
+    std::set<std::pair<unsigned long long, Place>> places_;  // By ID.
+    Place next_place_ = 0;
+    std::optional<Place> take_all_asked_;
 };
 
 template <class Leaves>
 void PendingActions::EraseIf(Leaves leaves) {
-    if (take_all_cursor_) {
-        auto const passed = begin() + static_cast<std::ptrdiff_t>(*take_all_cursor_);
-        *take_all_cursor_ -= static_cast<std::size_t>(std::count_if(begin(), passed, leaves));
-    }
-    std::erase_if(requests_, leaves);
+    for (auto request = begin(); request != end();) request = leaves(*request) ? Erase(request) : std::next(request);
 }
 
 class UnixPipe;
