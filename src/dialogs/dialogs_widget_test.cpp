@@ -348,7 +348,7 @@ TEST_F(DialogsTest, LineEndsOfOtherSystemsAndUnencodableTitlesDoNoHarm) {
     EXPECT_THAT(Text(InDialog("form.actiontitle"), XtNlabel), testing::StartsWith("a  b c"));
     EXPECT_THAT(Text(InDialog("form.actiondesc"), XtNstring), testing::StartsWith("one\ntwo\n"));
     auto message = Message(1);
-    message.title = actions[0].title;
+    message.title = actions.begin()->title;
     for (int time = 0; time < 2; ++time) ShowMessageDialog(message);
     EXPECT_EQ(Shells("MessageDialog").size(), 1u);
     RemoveMessageDialog(1);
