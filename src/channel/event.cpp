@@ -15,8 +15,8 @@ constexpr TimeInterval kLongestTimedWait(4'294'967'294'999);
 
 // The latest second is one below the largest value, so that carrying the nanoseconds cannot overflow.
 time_t AddSeconds(time_t now, long long seconds) {
-    constexpr time_t latest = std::numeric_limits<time_t>::max() - 1;
-    return now > latest - seconds ? latest : static_cast<time_t>(now + seconds);
+    constexpr time_t kLatest = std::numeric_limits<time_t>::max() - 1;
+    return now > kLatest - seconds ? kLatest : static_cast<time_t>(now + seconds);
 }
 
 class EventLocker {

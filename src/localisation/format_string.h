@@ -12,7 +12,7 @@
 
 // An opening brace without a closing one after it.
 class BadFormatStringError : public DebuggableException {};
-// A variable without a name, or with a byte in it that is no ASCII letter, digit or underscore.
+// A variable without a name, or with a byte after its first that is no ASCII letter, digit or underscore.
 class ImproperFormatVariableName : public DebuggableException {};
 // A variable to which nothing is bound: a reserved name that does not exist, or one that only the translation uses.
 class UndefinedFormatVariable : public DebuggableException {};

@@ -9,8 +9,8 @@ namespace {
 template <class Content>
 AutoUString<UTF8> Document(char const* root, char const* message, Content content) {
     UStringBuilder<UTF8> text;
-    XMLWriter writer(text, XMLFormatStyle{0});
-    writer.BeginDocument(EncodingDeclaration{0});
+    XMLWriter writer(text, XMLFormatStyle::Indented);
+    writer.BeginDocument(EncodingDeclaration::WithEncoding);
     writer.BeginElement(root).BeginElement(message);
     content(writer);
     writer.EndElement().EndDocument();

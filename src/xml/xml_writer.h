@@ -54,7 +54,7 @@ class XMLWriter {
     XMLWriter& BeginWritingTagContent();
     void AfterWritingTagContent() { state_ = TagState::Content; }
 
-    // Whether CR and LF, in text and in attribute values, are written as character references.
+    // Whether CR and LF, in text and in attribute values, are written as character references. Free to be set at any time.
     bool escape_line_breaks = false;
 
   private:
@@ -69,7 +69,7 @@ class XMLWriter {
 
     UTextReceiver<UTF8>& receiver_;
     XMLFormatStyle style_;
-    [[maybe_unused]] bool reserved_ = true;
+    [[maybe_unused]] bool reserved_ = true;  // Part of the writer's form; nothing reads it.
     std::vector<SharedUString<UTF8>> open_;
     TagState state_ = TagState::Nothing;
 };

@@ -43,11 +43,15 @@ Stringy EncodeBase64(ConstData bytes) {
     Stringy text;
     text.reserve(bytes.size() / 3 * 4 + 4);
     std::uint32_t bits = 0;
-    int waiting = 0;
+    unsigned waiting = 0;
     auto emit = [&](std::uint32_t value) { text += kAlphabet[value & 0x3F]; };
     for (unsigned char byte : bytes) {
         bits = bits << 8 | byte;
-        for (waiting += 8; waiting >= 6;) emit(bits >> (waiting -= 6));
+        waiting += 8;
+        while (waiting >= 6) {
+            waiting -= 6;
+            emit(bits >> waiting);
+        }
     }
     if (waiting > 0) emit(bits << (6 - waiting));
     text.append((4 - text.size() % 4) % 4, '=');

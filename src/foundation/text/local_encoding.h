@@ -39,8 +39,8 @@ FixedAscii<48> IANAEncodingName(Local8Bit);
 
 }  // namespace UnixPlatform
 
-// A copy in which every control character, line feeds and tabs among them, is a blank: for what has one line to show. `text`
-// is in the local encoding.
+// A copy in which every control character of ASCII, line feeds and tabs among them, is a blank: for what has one line to
+// show. `text` is in the local encoding.
 AutoNullTerminated<char> OneLine(AutoNullTerminated<char> const& text);
 
 // A zero-terminated copy in the local encoding, for the toolkit. Throws what UnixPlatform::ToLocal8Bit throws.

@@ -77,7 +77,7 @@ NumeralResult TryReadAsciiDecimalNumeral(ConstData text, unsigned int& value) {
 
 NumeralResult TryReadAsciiDecimalNumeral(ConstData text, long long& value) {
     bool is_signed = !text.empty() && (*text.begin() == '-' || *text.begin() == '+');
-    ConstData digits(text.begin() + is_signed, text.end());
+    ConstData digits(text.begin() + (is_signed ? 1 : 0), text.end());
     if (is_signed && *text.begin() == '-') return ReadNegated(digits, value);
     return ReadNarrow<unsigned long long>(TryReadAsciiDecimalNumeral, digits, value);
 }

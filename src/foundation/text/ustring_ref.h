@@ -33,7 +33,7 @@ concept ByteEncoding = sizeof(typename E::Unit) == 1;
 // A view over text in the encoding E: it owns nothing, and its owner must outlive it.
 //
 // It also carries whether whoever made it knows the text to be valid in E: of zero-terminated literals and of numerals
-// that is known, of bytes from outside and of what a string object holds it is not. Nothing is checked.
+// that is known, of bytes from outside and of what a string object or a buffer holds it is not. Nothing is checked.
 template <class E>
 class UStringRef {
   public:

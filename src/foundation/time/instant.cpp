@@ -19,8 +19,8 @@ Instant::Instant(TimeObject const& time)
           SaturatingMultiply(time.SecondsSinceYear0() - TimeObject::kSecondsBefore1970, TimeInterval::kSecond)) {}
 
 Instant Instant::Now() {
-    // Broken down as local time and put together with the same offset it would be the same second, POSIX time having no
-    // leap seconds: the zone file need not be looked at.
+    // Broken down as local time and put together with the same offset it would be the same second in every zone without
+    // leap seconds, the only ones that POSIX time has: the zone file need not be looked at.
     return Instant() + TimeInterval::Seconds(std::time(nullptr));
 }
 

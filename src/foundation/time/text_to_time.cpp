@@ -30,9 +30,9 @@ bool TakeDate(TimeScanner& scanner, DateRecord& date) {
 }  // namespace
 
 void TimeScanner::Trim() {
-    constexpr char const* blanks = " \t\r\n";
-    rest_.remove_prefix(std::min(rest_.find_first_not_of(blanks), rest_.size()));
-    rest_ = rest_.substr(0, rest_.find_last_not_of(blanks) + 1);
+    constexpr char const* kBlanks = " \t\r\n";
+    rest_.remove_prefix(std::min(rest_.find_first_not_of(kBlanks), rest_.size()));
+    rest_ = rest_.substr(0, rest_.find_last_not_of(kBlanks) + 1);
 }
 
 bool TimeScanner::Take(std::string_view literal) {

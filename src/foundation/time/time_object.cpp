@@ -49,8 +49,9 @@ long long TimeObject::SecondsSinceYear0() const {
 }
 
 void TimeObject::SetWallSeconds(long long seconds) {
-    constexpr auto year = std::numeric_limits<std::uint32_t>::max();
-    long long const end = (DateRecord::DaysBefore(year) + DateRecord::DaysIn(year)) * TimeOfDay::kSecondsInDay;
+    constexpr auto kLastYear = std::numeric_limits<std::uint32_t>::max();
+    long long const end =
+        (DateRecord::DaysBefore(kLastYear) + DateRecord::DaysIn(kLastYear)) * TimeOfDay::kSecondsInDay;
     seconds = std::clamp(seconds, 0LL, end - 1);
     date_.SetAbsoluteDay(seconds / TimeOfDay::kSecondsInDay);
     time_.SetSecondOfDay(seconds);

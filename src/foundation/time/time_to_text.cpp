@@ -17,16 +17,16 @@ Buffer& Buffer::Number(unsigned long long value, unsigned int min_digits) {
 }
 
 char const* DayOfWeekToText(DayOfWeek day) {
-    static constexpr std::array names{"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
+    static constexpr std::array kNames{"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
     auto const index = static_cast<std::size_t>(day);
-    return index < names.size() ? names[index] : "???";
+    return index < kNames.size() ? kNames[index] : "???";
 }
 
 char const* MonthToText(Month month) {
-    static constexpr std::array names{"Jan", "Feb", "Mar", "Apr", "May", "Jun",
-                                      "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+    static constexpr std::array kNames{"Jan", "Feb", "Mar", "Apr", "May", "Jun",
+                                       "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
     auto const index = static_cast<std::size_t>(month) - 1;
-    return index < names.size() ? names[index] : "???";
+    return index < kNames.size() ? kNames[index] : "???";
 }
 
 Buffer& operator<<(Buffer& buffer, TimeOfDay const& time) {

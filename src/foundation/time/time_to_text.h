@@ -28,7 +28,7 @@ class Buffer {
     Buffer& Number(unsigned long long value, unsigned int min_digits);
 
     // What was written so far; valid until more is written.
-    UStringRef<UTF8> Text() const { return {room_.data(), room_.data() + size_, true}; }
+    UStringRef<UTF8> Text() const { return {room_.data(), room_.data() + size_}; }
     AutoUString<UTF8> MakeText() const { return AutoUString<UTF8>(Text()); }
 
   private:
