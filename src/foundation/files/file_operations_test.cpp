@@ -3,27 +3,39 @@
 #include <sys/stat.h>
 #include <sys/wait.h>
 
-#include <barrier>
 #include <filesystem>
-#include <future>
-#include <vector>
+#include <fstream>
+#include <iterator>
+#include <thread>
 
+#include "foundation/files/directories.h"
+#include "foundation/files/file_access.h"
 #include "foundation/files/file_errors.h"
-#include "tests/support/test_directory.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
-struct FileOperationsTest : testing::Test, TestDirectory {
+// The paths lie in a directory of the test's own, "/" among them.
+struct FileOperationsTest : testing::Test {
+    ~FileOperationsTest() override { fs::remove_all(top_); }
+
+    FileLocation At(std::string_view path) const { return FileLocation(Stringy(top_).append(path)); }
     Stringy Read(std::string_view path) const {
         FileReadingPath file(At(path));
-        std::vector<unsigned char> bytes(file.Length());
-        FileReader(file).Read(bytes);
-        return {bytes.begin(), bytes.end()};
+        Stringy bytes(file.Length(), '?');
+        FileReader(file).Read({reinterpret_cast<unsigned char*>(bytes.data()), bytes.size()});
+        return bytes;
     }
-    void Link(char const* path, fs::path const& target) const { fs::create_symlink(target, At(path).SystemPath()); }
-    bool IsEmpty(std::string_view path) const { return fs::is_empty(At(path).SystemPath()); }
+    void Write(std::string_view path, ConstData bytes) const {
+        FileWritingPath file(At(path));
+        FileWriter(file).Write(bytes);
+        file.Close();
+    }
+    void Link(char const* path, fs::path const& target) const { fs::create_symlink(target, top_ + path); }
+
+    char pattern_[24] = "/tmp/files_test.XXXXXX";
+    std::string top_ = mkdtemp(pattern_);
 };
 
 TEST_F(FileOperationsTest, WhatIsWrittenReplacesWhatWasThereButFollowsNoLink) {
@@ -47,7 +59,7 @@ TEST_F(FileOperationsTest, WhatIsWrittenReplacesWhatWasThereButFollowsNoLink) {
 TEST_F(FileOperationsTest, ATreeIsMadeWithWhatItLacksAndReplacesNothing) {
     Write("/file", "kept");
     Link("/dangling", "nowhere");
-    Link("/link", Top().SystemPath());
+    Link("/link", top_);
     for (auto path : {"/a/b/c", "/a/b/c/d/", "/x/./y", "/z/../w", "/a/b/c", "/link", "/link/v"}) {
         CreateDirectoryTree(At(path));
         EXPECT_TRUE(UnixFileInfo(At(path)).IsDirectory()) << path;
@@ -68,7 +80,7 @@ TEST_F(FileOperationsTest, DeletingEmptiesADirectoryAndNothingElse) {
     Link("/base/sub/link", "../../outside");
     mkfifo(At("/base/pipe").SystemPath(), 0600);
     ForceDeleteContents(At("/base"));
-    EXPECT_TRUE(IsEmpty("/base"));
+    EXPECT_TRUE(fs::is_empty(top_ + "/base"));
     EXPECT_NO_THROW(ForceDeleteContents(At("/missing")));
     EXPECT_THROW(DeleteContents(At("/missing")), FileNotFoundError);
     EXPECT_THROW(ForceDeleteContents(At("/outside/file")), DirectoryNotFoundError);
@@ -82,15 +94,9 @@ TEST_F(FileOperationsTest, TwoWhoEmptyOneDirectoryAtOnceBothSucceed) {
         Write(path + "/file", "x");
         Write(path + ".file", "x");
     }
-    std::barrier start(2);
-    auto empty = [&] {
-        start.arrive_and_wait();
-        DeleteContents(At("/base"));
-    };
-    auto other = std::async(std::launch::async, empty);
-    EXPECT_NO_THROW(empty());
-    EXPECT_NO_THROW(other.get());
-    EXPECT_TRUE(IsEmpty("/base"));
+    auto empty = [&] { EXPECT_NO_THROW(DeleteContents(At("/base"))); };
+    { std::jthread one(empty), other(empty); }
+    EXPECT_TRUE(fs::is_empty(top_ + "/base"));
 }
 
 enum { Deleted, Refused, NoOtherRoot };  // A process that dies ends with the first, too.
@@ -109,7 +115,7 @@ TEST_F(FileOperationsTest, TheRootIsNeverEmptied) {
     Link("/link", "/");
     for (auto root : {"/", "/link"}) {
         pid_t const child = fork();
-        if (child == 0) _exit(TryToEmpty(root, Top().SystemPath()));
+        if (child == 0) _exit(TryToEmpty(root, top_.c_str()));
         int status;
         waitpid(child, &status, 0);
         if (WEXITSTATUS(status) == NoOtherRoot) GTEST_SKIP() << "this process may not move its root";

@@ -4,7 +4,6 @@
 
 #include <ctime>
 #include <limits>
-#include <random>
 
 #include "foundation/time/text_to_time.h"
 #include "foundation/time/time_to_text.h"
@@ -25,10 +24,8 @@ std::string Written(TimeObject const& time) {
 }
 
 TEST(TimeObject, AgreesWithTheSystemsCalendarAndComesBack) {
-    std::mt19937_64 random(9);
-    std::uniform_int_distribution<long long> any_second_of_the_years_1000_to_9999(-30'610'224'000, 253'402'300'799);
-    for (int i = 0; i < 20'000; ++i) {
-        std::time_t const second = any_second_of_the_years_1000_to_9999(random);
+    // Of the years 1000 to 9999.
+    for (std::time_t second = -30'610'224'000; second <= 253'402'300'799; second += 14'000'029) {
         Instant const instant(second * TimeInterval::kSecond);
         std::tm fields{};
         char text[64];
