@@ -14,18 +14,16 @@ TimeInterval const kNoTime(0), kForever(LLONG_MAX);
 
 TEST(Mutex, IsOwnedUntilTheLastReleaseOfItsOwner) {
     Mutex mutex;
-    auto expect_for_another = [&](Mutex* expected) {
-        std::jthread([&] {
-            EXPECT_EQ(TryMutex(mutex), expected);
-            ReleaseMutex(expected);
-        });
-    };
+    Mutex* taken_by_another;
+    auto const let_another_try = [&] { ReleaseMutex(taken_by_another = TryMutex(mutex)); };
     EXPECT_EQ(WaitForMutex(mutex), &mutex);
     EXPECT_EQ(TryMutex(mutex), &mutex);
     ReleaseMutex(&mutex);
-    expect_for_another(nullptr);
+    std::thread(let_another_try).join();
+    EXPECT_EQ(taken_by_another, nullptr);
     ReleaseMutex(&mutex);
-    expect_for_another(&mutex);
+    std::thread(let_another_try).join();
+    EXPECT_EQ(taken_by_another, &mutex);
 }
 
 TEST(Event, LetsWaitersThroughWhileItIsSetAndFiresWhatIsLinked) {

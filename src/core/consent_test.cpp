@@ -26,8 +26,7 @@ struct State {
     std::set<std::string> agreed;               // What may be answered, in short.
     std::vector<struct Letter const*> presses;  // Those of this second.
     std::tuple<PendingActions, std::optional<ActionRequest>, bool> process;
-};
-State now;
+} now;
 
 struct Letter {
     char const* name;  // That of what the client says is a line of the scripted client.

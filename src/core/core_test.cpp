@@ -117,7 +117,6 @@ TEST_F(CoreTest, WhatIsDecidedIsAskedAboutAndAnswered) {
          "asked1a taken1 ", "2 3c "},
         {"nor beside one of a take-all", "+1a +2b all take2 cancel2 all snooze yes yes",
          "asked1a asked2b taken1 taken2 ", ""},
-        {"each entry has its own question", "+1 +1b +1c all yes yes", "asked1b asked1c taken1 taken1 taken1 ", ""},
         {"another title is asked about", "+1aX take1 -1 +1aY yes", "asked1aX asked1aY ", "1aY "},
         {"the same question is not", "+1aX take1 -1 +1aX yes", "asked1aX taken1 ", ""},
         {"without a question it is left to another decision", "+1a take1 -1 +1 yes", "asked1a ", "1 "},

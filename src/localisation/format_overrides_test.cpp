@@ -43,22 +43,18 @@ TEST(FormatOverrideContextTest, TheScopeAddedLastAnswersFirst) {
 TEST(ListTest, AWalkGoesOnWhereverNodesComeAndGo) {
     struct Node : ListNode {};
     List list;
-    Node nodes[3];
-    for (auto& node : nodes) list.PushFront(node);
-    auto removed = std::make_unique<Node>();
-    list.PushFront(*removed);
+    Node last, second, late;
+    auto first = std::make_unique<Node>();
+    for (Node* node : {&last, &second, first.get()}) list.PushFront(*node);
     ListIterator walk(list), slower(list);
-    EXPECT_EQ(slower.Next(), removed.get());
-    removed.reset();
-    EXPECT_EQ(walk.Next(), &nodes[2]);
-    list.Remove(nodes[1]);
-    EXPECT_EQ(walk.Next(), &nodes[0]);
-    list.Remove(nodes[0]);
-    list.PushFront(nodes[1]);
+    EXPECT_EQ(slower.Next(), first.get());
+    first.reset();
+    list.PushFront(late);
+    EXPECT_EQ(walk.Next(), &second);
+    list.Remove(last);
     EXPECT_EQ(walk.Next(), nullptr);
-    EXPECT_EQ(slower.Next(), &nodes[2]);
-    EXPECT_EQ(slower.Next(), nullptr);
-    EXPECT_EQ(ListIterator(list).Next(), &nodes[1]);
+    EXPECT_EQ(slower.Next(), &second);
+    EXPECT_EQ(ListIterator(list).Next(), &late);
 }
 
 }  // namespace

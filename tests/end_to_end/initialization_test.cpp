@@ -64,9 +64,8 @@ TEST_P(FailingInitialization, IsFollowedByOneThatSucceeds) {
     Play("support-file a.txt a");
     auto const elements = Replaced(GetParam().second, "~", Directory().string());
     Program().SendFrame(tools::Document(tools::Element("InitializationInfo", elements)));
-    std::string initialization = Document("initialize");
     // What follows in the same batch is lost, and no answer tells the batches apart.
-    EXPECT_TRUE(tools::WaitUntil(std::chrono::seconds(10), [&] {
+    EXPECT_TRUE(tools::WaitUntil(std::chrono::seconds(10), [&, initialization = Document("initialize")] {
         Program().SendFrame(initialization);
         return std::filesystem::exists(BaseDirectory() / "a.txt");
     }));

@@ -30,6 +30,14 @@ TEST(SharedUString, CopiesStandOverOneBufferUntilTheLastGoes) {
     EXPECT_TRUE(copy.empty() && moved == Ref("abc") && assigned == moved);
 }
 
+TEST(SharingLink, IsAloneBeforeItIsCopiedAndWhenTheCopiesHaveLeft) {
+    SharingLink link;
+    EXPECT_TRUE(link.Alone());
+    SharingLink copy(link);
+    EXPECT_FALSE(link.Alone() || copy.Alone() || copy.Leave());
+    EXPECT_TRUE(link.Alone() && link.Leave());
+}
+
 TEST(SharedUString, ThreadsCopyAndDropOneStringAtTheSameTime) {
     for (int round = 0; round < 500; ++round) {
         std::latch started(4), copied(4);
