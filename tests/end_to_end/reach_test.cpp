@@ -63,6 +63,8 @@ TEST_P(UnderManager, EverythingIsDecidedWithoutAMouse) {
         wait window ActionRequestDialog
         wait active ActionRequestDialog
         wait sensitive form.viewport.List form.takeAllActions form.takeActions form.snoozeViewport.List form.snoozeButton
+        request id=9 title=Overdue force deadline=-1h
+        expect ActionTaken ID=9
         key Tab Return
         wait window ConfirmationDialog
         wait active ConfirmationDialog
