@@ -38,6 +38,7 @@ TEST_P(UnderManager, WhatNobodyAskedForIsOnTopAndLeavesTheKeyboardWhereItIs) {
     )");
 }
 
+// The answer to the overdue action tells that a whole tick has passed, also where no widget can be looked at.
 TEST_P(UnderManager, EverythingIsDecidedWithoutAMouse) {
     Play(R"(
         initialize snooze
@@ -71,6 +72,8 @@ TEST_P(UnderManager, EverythingIsDecidedWithoutAMouse) {
         key Shift+Tab Shift+Tab Return
         expect ActionTaken ID=2 IsCancel=false
         request id=3 title=Three
+        request id=9 title=Overdue force deadline=-1h
+        expect ActionTaken ID=9
         wait window ActionRequestDialog
         wait widget form.actiontitle label="There is 1 pending action."
         key Shift+Tab Shift+Tab Shift+Tab Down Tab Return
