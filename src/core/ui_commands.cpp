@@ -15,9 +15,7 @@ void SendActionTaken(ActionRequest const& action, bool cancel) {
     SendToClient(ClientWriter(), ActionTaken{.is_cancel = cancel, .is_offer = false, .id = action.id});
 }
 
-using Pending = PendingActions::Iterator;
-
-void CompleteAction(Pending action, bool cancel) {
+void CompleteAction(PendingActions::Iterator action, bool cancel) {
     SendActionTaken(*action, cancel);
     actions.Erase(action);
     UpdateActionRequestDialog();
@@ -38,7 +36,7 @@ bool RequestConfirmationIfNeeded(ActionRequest const& action) {
     return true;
 }
 
-void TakeAllFrom(Pending action) {
+void TakeAllFrom(PendingActions::Iterator action) {
     for (; action != actions.end(); ++action)
         if (RequestConfirmationIfNeeded(*action)) return actions.SetTakeAllCursor(action);
     TakeAllActions();

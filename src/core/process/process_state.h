@@ -24,7 +24,7 @@ class PendingActions {
     using Requests = std::map<Place, ActionRequest>;
 
   public:
-    // Walks the requests; valid until its own leaves.
+    // Walks the requests; valid until the one that it stands at leaves.
     class Iterator : public Requests::const_iterator {
       public:
         using value_type = ActionRequest;
