@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int kGap = 4;  // Pixels between neighbours.
+constexpr int kGap = DialogWindow::kGap;
 constexpr int kSnoozeListWidth = 400;
 
 int OuterWidthOf(Widget widget) {
@@ -21,7 +21,6 @@ int OuterWidthOf(Widget widget) {
 
 void ActionRequestWindow::Open(ActionRequestContents const& contents, Handlers handlers) {
     window_.Open(ControlLiteral(LocalizedStrings::ActionRequestTitle()).c_str());
-    window_.SetFormDistance(kGap);
     OpenActionPart(contents, handlers);
     OpenButtons(handlers);
     OpenSnoozePart(handlers);
@@ -106,6 +105,7 @@ void ActionRequestWindow::ShowDescription(char const* text, unsigned long long c
 void ActionRequestWindow::ShowSensitivity(ActionRequestContents const& contents) {
     for (auto const& control : controls_) SetSensitive(control.widget, contents.*control.sensitive);
     SetMapped(At(kDetails), contents.details_mapped);
+    window_.KeepFocusOnWhatReacts();
 }
 
 // Whoever decides by the keyboard begins anew each time: a key typed twice decides once.

@@ -11,5 +11,5 @@ void ShowConfirmationRequestDialog(unsigned long long id);
 // There is nothing to bring up to date: the texts of an action do not change.
 void UpdateConfirmationRequestDialog();
 
-// Takes the question back, if it stands: nobody is told.
+// Closes the question, if it stands, and tells nobody.
 void HideConfirmationRequestDialog();

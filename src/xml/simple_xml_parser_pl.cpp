@@ -138,7 +138,8 @@ void SimpleXMLParserPL::LeaveState(State next) {
 void SimpleXMLParserPL::EnterState(State next) {
     if (next == State::CharactersEntity || next == State::AttributeEntity) escape_ = '&';
     if (next == State::TagName || next == State::Comment) dashes_ = 0;
-    if (next == State::TagName) tag_name_.clear(), attribute_count_ = 0;
+    if (next == State::TagName) tag_name_.clear();
+    if (next == State::TagName) attribute_count_ = 0;
     if (next == State::BetweenAttributes) BeginAttribute();
     if (next == State::AttributeName) Attribute().first += current_;
 }

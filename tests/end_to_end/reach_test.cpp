@@ -49,7 +49,7 @@ TEST_P(UnderManager, EverythingIsDecidedWithoutAMouse) {
         wait active editor
         press form.actionListLabel
         wait active ActionRequestDialog
-        key Return space Escape Down End
+        key Return space Escape End
         wait widget form.actiontitle label=Two
         key Up
         wait widget form.actiontitle label=One

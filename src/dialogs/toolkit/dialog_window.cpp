@@ -13,6 +13,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <map>
 #include <utility>
 
 #include "core/process/client_writer.h"
@@ -21,6 +22,7 @@
 #include "dialogs/toolkit/callbacks.h"
 #include "dialogs/toolkit/read_only_text.h"
 #include "foundation/base/never_destroyed.h"
+#include "foundation/text/transcode.h"
 
 namespace {
 
@@ -79,14 +81,28 @@ bool HasWindowManager() {
 // another program: after a while without a press there was one.
 bool IsRepeated(XKeyEvent const& key) {
     constexpr Time kLongestPause = 1000;  // Milliseconds, above the delay before a key repeats.
-    static XKeyEvent last{};
-    bool const held = last.type == KeyPress && last.keycode == key.keycode && key.time - last.time < kLongestPause;
-    last = key;
-    return held && key.type == KeyPress;
+    static std::map<unsigned, Time> pressed;
+    if (key.type == KeyRelease) {
+        pressed.erase(key.keycode);
+        return false;
+    }
+    auto const [last, first] = pressed.try_emplace(key.keycode, key.time);
+    bool const held = !first && key.time - last->second < kLongestPause;
+    last->second = key.time;
+    return held;
+}
+
+// Xlib writes what the locale has, and some locales have more than there is.
+bool IsUTF8(XTextProperty const& property) try {
+    UStringRef<UTF8> const text(property.value, property.value + property.nitems);
+    return Transcode<UTF8>(Transcode<UTF32>(text).Ref()).Ref() == text;
+} catch (InvalidTextEncoding const&) {
+    return false;
 }
 
 // What a window manager would do. The window may vanish before the server hears of it, which is no error then.
 void TakeKeyboard(Widget shell, Time time) {
+    XSync(display, False);
     auto const handler = XSetErrorHandler([](Display*, XErrorEvent*) { return 0; });
     XSetInputFocus(display, XtWindow(shell), RevertToPointerRoot, time);
     XSync(display, False);
@@ -119,17 +135,15 @@ void DialogWindow::Open(char const* title) {
                           {"openIm", false}});
     OverrideTranslations(shell_, "<Message>WM_PROTOCOLS: SystemMenuClose()\n");
     open_windows.push_back(this);
-    form_ = Create(shell_, "form", formWidgetClass);
+    // The gap between neighbours, in which the focus is shown: whatever a user's resources say.
+    form_ = Create(shell_, "form", formWidgetClass, {{XtNdefaultDistance, kGap}});
     focus_.Begin(form_);
-    has_keyboard_ = false;
     // Keys and buttons are asked for here, so that they come wherever the pointer is; they are filtered before.
-    OnEvents(shell_, StructureNotifyMask | FocusChangeMask | KeyPressMask | KeyReleaseMask | ButtonPressMask,
+    OnEvents(shell_,
+             StructureNotifyMask | FocusChangeMask | EnterWindowMask | LeaveWindowMask | KeyPressMask | KeyReleaseMask |
+                 ButtonPressMask,
              [this](XEvent const& event) { HandleEvent(event); });
     OnEvents(form_, ExposureMask, [this](XEvent const&) { focus_.Draw(); });
-}
-
-void DialogWindow::SetFormDistance(int pixels) {
-    SetResources(form_, {{XtNdefaultDistance, pixels}});
 }
 
 Widget DialogWindow::AddLabel(char const* name, char const* text, LabelTraits const& traits) {
@@ -137,8 +151,8 @@ Widget DialogWindow::AddLabel(char const* name, char const* text, LabelTraits co
     if (!traits.framed) SetResources(label, {{XtNborderWidth, 0}});
     if (traits.left) SetResources(label, {{XtNjustify, XtJustifyLeft}});
     if (traits.distance > 0) SetResources(label, {{XtNvertDistance, traits.distance}});
-    if (traits.width > 0) SetResources(label, {{XtNwidth, traits.width}, {XtNresize, false}});
     FitToDisplay(label, traits.most_lines);
+    if (traits.width > 0) SetResources(label, {{XtNwidth, traits.width}, {XtNresize, false}});
     AnchorInForm(label, traits.anchor);
     return label;
 }
@@ -205,6 +219,10 @@ void DialogWindow::SetSmallestSize() {
 
 void DialogWindow::HandleEvent(XEvent const& event) {
     if (event.type == MapNotify) HandleMapped();
+    // Where the keyboard follows the pointer, that is all that is said of it.
+    bool const crossing = event.type == EnterNotify || event.type == LeaveNotify;
+    if (crossing && event.xcrossing.focus && event.xcrossing.detail != NotifyInferior)
+        HandleFocus(event.type == EnterNotify);
     bool const change = event.type == FocusIn || event.type == FocusOut;
     // A grab takes the keyboard for a moment only: a menu's, or that of a click that the window manager looks at.
     if (!change || event.xfocus.mode == NotifyGrab || event.xfocus.mode == NotifyUngrab) return;
@@ -217,20 +235,20 @@ void DialogWindow::HandleMapped() {
 }
 
 void DialogWindow::HandleFocus(bool gained) {
-    has_keyboard_ = gained;
     focus_.Reset();
     focus_.SetShown(gained);
     if (gained) SetResources(shell_, {{XtNurgency, false}});
 }
 
 void DialogWindow::SetUrgent() {
-    if (shell_ && !has_keyboard_) SetResources(shell_, {{XtNurgency, true}});
+    if (shell_ && !focus_.IsShown()) SetResources(shell_, {{XtNurgency, true}});
 }
 
 bool DialogWindow::HandleKey(XEvent const& event) {
     auto key = event.xkey;
     bool const repeated = IsRepeated(key);
-    if (event.type == KeyRelease) return false;
+    // With other modifiers a key means something to whoever watches for them, and nothing here.
+    if (event.type == KeyRelease || (key.state & (ControlMask | Mod1Mask | Mod4Mask)) != 0) return false;
     KeySym const meaning = XLookupKeysym(&key, (key.state & ShiftMask) != 0 ? 1 : 0);
     bool const backwards = meaning == XK_Tab && (key.state & ShiftMask) != 0;
     return focus_.HandleKey(backwards ? XK_ISO_Left_Tab : meaning, repeated);
@@ -258,12 +276,15 @@ void DialogWindow::SetProperties(WindowTraits const& traits) {
     if (traits.over) XSetTransientForHint(display, XtWindow(shell_), XtWindow(traits.over));
 }
 
-// The title in UTF-8, which the toolkit's own property does not have; what Xlib cannot write in it goes without.
+// The title in UTF-8, which the toolkit's own property does not have; one that cannot be written in it goes without.
 void DialogWindow::SetTitleProperty(char const* title) {
     auto* text = const_cast<char*>(title);
-    XTextProperty property;
-    if (XmbTextListToTextProperty(display, &text, 1, XUTF8StringStyle, &property) < Success) return;
-    XSetTextProperty(display, XtWindow(shell_), &property, AtomOf("_NET_WM_NAME"));
+    XTextProperty property{};
+    bool const written = XmbTextListToTextProperty(display, &text, 1, XUTF8StringStyle, &property) >= Success;
+    if (written && IsUTF8(property))
+        XSetTextProperty(display, XtWindow(shell_), &property, AtomOf("_NET_WM_NAME"));
+    else
+        XDeleteProperty(display, XtWindow(shell_), AtomOf("_NET_WM_NAME"));
     XFree(property.value);
 }
 
@@ -274,6 +295,7 @@ void DialogWindow::SetTitle(char const* title) {
 
 void DialogWindow::Close() {
     if (!shell_) return;
+    focus_ = {};
     std::erase(open_windows, this);
     texts_.clear();
     form_ = nullptr;

@@ -59,6 +59,9 @@ struct ButtonTraits {
 // are pixels. Main thread only; the object must outlive its window, and closing it destroys every widget in it.
 class DialogWindow {
   public:
+    // Pixels between neighbours.
+    static constexpr int kGap = 4;
+
     // `name`, a literal, is the shell's, and the one by which a failure is reported.
     explicit DialogWindow(char const* name) : name_(name) {}
     DialogWindow(DialogWindow const&) = delete;
@@ -81,8 +84,6 @@ class DialogWindow {
     // Makes the shell, not yet visible, and its empty form.
     void Open(char const* title);
 
-    // The distance between neighbours, whatever a user's resources say; before anything is added.
-    void SetFormDistance(int pixels);
     Widget AddLabel(char const* name, char const* text, LabelTraits const& traits = {});
     Widget AddText(char const* name, char const* text, TextTraits const& traits = {});
     Widget AddButton(char const* name, char const* label, std::function<void()> pressed,
@@ -93,6 +94,8 @@ class DialogWindow {
     // Which control has the focus at first, and which button Escape presses.
     void SetFirstFocus(Widget widget) { focus_.SetFirst(widget); }
     void SetEscape(Widget button) { focus_.SetEscape(button); }
+    // Puts the focus back to the first if what has it no longer reacts.
+    void KeepFocusOnWhatReacts() { focus_.KeepOnWhatReacts(); }
     // Puts the focus back to the first: after a decision, so that a key typed twice decides once.
     void ResetFocus() { focus_.Reset(); }
 
@@ -112,7 +115,8 @@ class DialogWindow {
     // Asks the window manager to draw the user's attention to the window, until it gets the keyboard (ICCCM 4.1.2.4).
     void SetUrgent();
 
-    // What the toolkit hands on of keys and the wheel; whether they were meant for this window.
+    // What the toolkit hands on of keys and the wheel; whether they were meant for this window. A key may close the window,
+    // and with it end this object.
     bool HandleKey(_XEvent const& event);
     void HandleButton(_XEvent const& event);
     // Whether the toolkit may hand events of other programs' windows to this widget: it is one that stands here.
@@ -136,7 +140,6 @@ class DialogWindow {
     std::vector<Widget> texts_;
     FocusRing focus_;
     bool asked_for_ = false;
-    bool has_keyboard_ = false;
 };
 
 // Makes the hidden shell the leader (ICCCM 4.1.11) of the windows that were opened before it; later ones have it at once.

@@ -83,6 +83,10 @@ void FocusRing::Reset() {
     Visit(first_);
 }
 
+void FocusRing::KeepOnWhatReacts() {
+    if (focused_ < controls_.size() && !Reacts(controls_[focused_])) Reset();
+}
+
 void FocusRing::SetShown(bool shown) {
     if (shown == shown_) return;
     Erase();

@@ -37,8 +37,11 @@ class FocusRing {
 
     // Puts the focus back where it was at first.
     void Reset();
+    // The same if what has the focus no longer reacts.
+    void KeepOnWhatReacts();
     // Whether the window has the keyboard: only then the focus is shown.
     void SetShown(bool shown);
+    bool IsShown() const { return shown_; }
     // Draws the outline; after the form was drawn.
     void Draw() const;
 

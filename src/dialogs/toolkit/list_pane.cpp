@@ -79,7 +79,8 @@ void ListPane::HandOver(Rows rows) {
 }
 
 bool ListPane::Shows(Rows const& rows) const {
-    return std::equal(rows_.begin(), rows_.end(), rows.begin(), rows.end(),
+    auto const shown = std::min(rows.size(), MostRows(list_));
+    return std::equal(rows_.begin(), rows_.end(), rows.begin(), rows.begin() + static_cast<std::ptrdiff_t>(shown),
                       [](auto const& a, auto const& b) { return std::strcmp(a.c_str(), b.c_str()) == 0; });
 }
 
@@ -113,9 +114,9 @@ void ListPane::GoTo(Move move) {
     if (last < 0) return;
     int const page = std::max(1, HeightOf(viewport_) / std::max(1, PartOf(list_).row_height) - 1);
     int const from = HighlightedRow(list_);
-    // From no row at all, the first move leads to the first.
     int const steps[] = {-1, 1, -page, page, -last, last};
-    int const to = from < 0 && move != Move::Last ? 0 : from + steps[static_cast<std::size_t>(move)];
+    // From no row at all, every move but that to the end leads to the first.
+    int const to = move == Move::Last ? last : from < 0 ? 0 : from + steps[static_cast<std::size_t>(move)];
     Highlight(std::clamp(to, 0, last));
     on_row_(HighlightedRow(list_));
 }

@@ -30,7 +30,7 @@ class ListPane {
     // the last are left out: positions in a window end at 32,767 pixels, and a list's size is kept in 16 bits and would
     // be none at all for certain numbers of rows.
     void ShowRows(Rows rows);
-    // Whether the list shows exactly these rows, none left out.
+    // Whether that would show what is there already.
     bool Shows(Rows const& rows) const;
 
     // Highlights a row and scrolls it into view; anything but one of the rows is ignored: the widget itself does not

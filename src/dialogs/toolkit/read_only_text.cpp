@@ -31,7 +31,8 @@ Widget CreateReadOnlyText(Widget parent, char const* name, char const* text, Arg
                         {XtNscrollVertical, XawtextScrollAlways},
                         {XtNwrap, XawtextWrapWord},
                         {XtNdisplayCaret, false},
-                        {XtNinternational, true}};
+                        {XtNinternational, true},
+                        {XtNpieceSize, BUFSIZ}};  // Of a user's few bytes the toolkit makes an endless loop.
     Widget created = Create(parent, name, asciiTextWidgetClass, common, arguments);
     // Deaf to the keyboard: the widget's own search window, which a key opens, reads beyond what is typed into it.
     OverrideTranslations(created, "<Key>: Nothing()\n");

@@ -183,7 +183,7 @@ void FitToDisplay(Widget label, int most_lines) {
     int const width = WidestInDisplay() - 2 * margin;
     if (!fonts) return;
     auto const lines = InLines(fonts, text, width, std::max(most_lines, 1));
-    if (lines != text) SetResources(label, {{XtNlabel, lines.c_str()}});
+    if (lines != text) SetResources(label, {{XtNlabel, lines.c_str()}, {XtNresize, true}});
 }
 
 void FixWidth(Widget button, std::vector<char const*> const& other_texts) {

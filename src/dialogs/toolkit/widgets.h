@@ -14,7 +14,7 @@ using WidgetClass = _WidgetClassRec*;
 //
 // The constructors admit exactly the kinds of value that the resources of this program's widgets hold; any other type
 // does not compile. A string is borrowed for the call: labels, titles and texts are copied by their widgets, a list's
-// rows are not (see ListRows).
+// rows are not (see ListPane).
 class Argument {
   public:
     // Pixels, counts and positions. The toolkit keeps sizes in 16 bits: see ClampedSize.
