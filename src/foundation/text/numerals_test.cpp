@@ -21,6 +21,8 @@ TEST(Numerals, ReadersTakeTheWholeRangeOfTheirTypeAndNoMore) {
     for (auto text : {"-9223372036854775809", "+9223372036854775808"})
         EXPECT_THROW(ReadAsciiSignedDecimalNumeral64(text), NumeralTooLarge) << text;
     EXPECT_THROW(ReadAsciiSignedDecimalNumeral("-2147483649"), NumeralTooLarge);
+    EXPECT_EQ(ReadAsciiHexNumeral64("FFFFffffFFFFffff"), ~0ull);
+    EXPECT_THROW(ReadAsciiHexNumeral("100000000"), NumeralTooLarge);
 }
 
 TEST(Numerals, ReadersTakeDigitsAndNothingElse) {
@@ -28,6 +30,7 @@ TEST(Numerals, ReadersTakeDigitsAndNothingElse) {
         EXPECT_THROW(ReadAsciiDecimalNumeral64(text), NotANumeral) << text;
     for (auto text : {"", "-", "+", "--1", "+-1", "-+1", " -1", "- 1"})
         EXPECT_THROW(ReadAsciiSignedDecimalNumeral64(text), NotANumeral) << text;
+    for (auto text : {"", "0x1", "-1", "g"}) EXPECT_THROW(ReadAsciiHexNumeral64(text), NotANumeral) << text;
 }
 
 TEST(Numerals, WritersPadWithZerosUpToTheirCapacity) {
@@ -37,6 +40,8 @@ TEST(Numerals, WritersPadWithZerosUpToTheirCapacity) {
     EXPECT_EQ(MakeAsciiSignedDecimalNumeral64(kLeast, 0).AsStringView(), "-9223372036854775808");
     EXPECT_EQ(MakeAsciiSignedDecimalNumeral(-5, 20).AsStringView(), "-00000000000000000005");
     EXPECT_THROW(MakeAsciiDecimalNumeral(1, 21), ConstDataCapacityExceeded);
+    EXPECT_EQ(MakeAsciiHexNumeral64(0xABC, 4).AsStringView(), "0abc");
+    EXPECT_EQ(static_cast<ConstData>(Numeral(kLeast, 36)).AsStringView(), "-1y2p0ij32e8e8");
 }
 
 TEST(Ascii, ClassesEndWhereAsciiSaysAndCaseIsAsciiOnly) {
