@@ -13,6 +13,7 @@ UStringRef<UTF8> UTF8Of(ConstData bytes) {
 XMLAttributes::XMLAttributes(std::vector<Attribute> attributes) : attributes_(std::move(attributes)) {
     auto precedes = [](auto& left, auto& right) { return left.first < right.first; };
     auto repeats = [](auto& left, auto& right) { return left.first == right.first; };
+    if (attributes_.size() < 2) return;
     std::stable_sort(attributes_.begin(), attributes_.end(), precedes);
     attributes_.erase(std::unique(attributes_.begin(), attributes_.end(), repeats), attributes_.end());
 }
