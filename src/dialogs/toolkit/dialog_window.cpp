@@ -77,6 +77,13 @@ bool HasWindowManager() {
            (root.all_event_masks & SubstructureRedirectMask) != 0;
 }
 
+bool KeyboardFollowsPointer() {
+    Window focus = None;
+    int revert = 0;
+    XGetInputFocus(display, &focus, &revert);
+    return focus == PointerRoot;
+}
+
 // Whether the key has been held down since its last press, in whichever window that was. The release may have gone to
 // another program: after a while without a press there was one.
 bool IsRepeated(XKeyEvent const& key) {
@@ -221,7 +228,7 @@ void DialogWindow::HandleEvent(XEvent const& event) {
     if (event.type == MapNotify) HandleMapped();
     // Where the keyboard follows the pointer, that is all that is said of it.
     bool const crossing = event.type == EnterNotify || event.type == LeaveNotify;
-    if (crossing && event.xcrossing.focus && event.xcrossing.detail != NotifyInferior)
+    if (crossing && event.xcrossing.detail != NotifyInferior && KeyboardFollowsPointer())
         HandleFocus(event.type == EnterNotify);
     bool const change = event.type == FocusIn || event.type == FocusOut;
     // A grab takes the keyboard for a moment only: a menu's, or that of a click that the window manager looks at.
