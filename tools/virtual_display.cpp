@@ -22,9 +22,9 @@ std::string ReadLine(Descriptor const& pipe) {
 
 }  // namespace
 
-VirtualDisplay::VirtualDisplay()
+VirtualDisplay::VirtualDisplay(std::string const& size)
     : announcement_(MakePipe()),
-      server_({"Xvfb", {"-displayfd", "1", "-noreset", "-screen", "0", "1280x1024x24"}}, -1,
+      server_({"Xvfb", {"-displayfd", "1", "-noreset", "-screen", "0", size + "x24"}}, -1,
               announcement_.writing.Get()) {
     announcement_.writing.Close();
     name_ = ":" + ReadLine(announcement_.reading);

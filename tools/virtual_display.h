@@ -10,8 +10,8 @@ namespace tools {
 // An X server without a screen, for one test or one demonstration. It dies with the object.
 class VirtualDisplay {
   public:
-    // Returns once the server accepts connections; throws std::runtime_error when it cannot be started.
-    VirtualDisplay();
+    // Of so many pixels. Returns once the server accepts connections; throws std::runtime_error when it cannot be started.
+    explicit VirtualDisplay(std::string const& size = "1280x1024");
 
     // As in DISPLAY.
     std::string const& Name() const { return name_; }

@@ -131,6 +131,16 @@ class DialogsTest : public testing::Test {
         XtVaGetValues(widget, resource, &text, nullptr);
         return text ? text : "";
     }
+    static void PressAt(Widget widget, unsigned button, int x, int y) {
+        XEvent press{};
+        press.type = ButtonPress;
+        press.xbutton.display = display;
+        press.xbutton.window = XtWindow(widget);
+        press.xbutton.button = button;
+        press.xbutton.x = x;
+        press.xbutton.y = y;
+        XtDispatchEvent(&press);
+    }
     static void Press(Widget button) {
         XtCallCallbacks(button, XtNcallback, nullptr);
         Settle();
@@ -280,13 +290,10 @@ TEST_F(DialogsTest, TheProposedChoiceIsHighlightedAndInView) {
         Refresh();
     }
     SetSensitive(ListIn("form.snoozeViewport"), false);
-    XEvent wheel{};
-    wheel.type = ButtonPress;
-    wheel.xbutton.display = display;
-    wheel.xbutton.window = XtWindow(ListIn("form.snoozeViewport"));
-    wheel.xbutton.button = Button4;
-    XtDispatchEvent(&wheel);
+    PressAt(ListIn("form.snoozeViewport"), Button4, 5, 5);
     EXPECT_EQ(AreaOf(ListIn("form.snoozeViewport")).y, 0) << "three rows up";
+    PressAt(ListIn("form.viewport"), Button1, WidthOf(ListIn("form.viewport")) - 5, 5);
+    EXPECT_EQ(HighlightedRow(ListIn("form.viewport")), 0) << "a row answers from edge to edge";
 }
 
 TEST_F(DialogsTest, AConfirmationIsAnsweredOnceAndIsNeverNarrowerThanItsExplanation) {

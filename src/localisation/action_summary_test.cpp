@@ -48,16 +48,11 @@ TEST(ActionSummaryTest, SaysInOneSentenceWhatIsAskedOfTheUser) {
          "You should save your work before taking the selected actions, as they will require a system shutdown when "
          "they "
          "are complete.  There is at least one selected action you must take within 2 hours."},
-        {Selected, true, false, false, whenever, "You should save your work before taking the selected actions."},
         {Selected, false, false, true, whenever,
          "The selected actions will require a system shutdown when they are complete."},
         {Selected, false, false, true, soon,
          "The selected actions will require a system shutdown when they are complete.  There is at least one selected "
          "action you must take now."},
-        {Selected, false, true, false, later,
-         "The selected actions will require a system restart when they are complete.  There is at least one selected "
-         "action you must take within 2 hours."},
-        {Pending, false, true, false, later, "There is at least one action you must take within 2 hours."},
         {Pending, true, true, false, later,
          "You should save your work before taking these actions.  There is at least one action you must take within 2 "
          "hours."},

@@ -4,11 +4,10 @@
 #include <string>
 
 #include "core/process/process_state.h"
-#include "dialogs/action_details_dialog.h"
 #include "dialogs/action_request_dialog.h"
 #include "tests/support/dialog_display.h"
 
-// The action request dialog and a script's preview on a virtual display.
+// The action request dialog on a virtual display.
 
 namespace {
 
@@ -41,22 +40,5 @@ BENCHMARK(RefreshOfTheActionRequestDialog)
     ->ArgsProduct({{125, 250, 500, 1000}})
     ->Unit(benchmark::kMillisecond)
     ->Complexity(benchmark::oN);
-
-// From the request for a preview of so many lines to its window, as the server has it.
-void OpeningOfAPreview(benchmark::State& state) {
-    OpenDialogDisplay();
-    std::string script;
-    for (std::int64_t i = 0; i < state.range(0); ++i) script += "echo this is one line of a long script\n";
-    auto action = Action(1);
-    action.preview = SharedUString<UTF8>(UStringRef<UTF8>(std::string_view(script)));
-    actions.Clear();
-    actions.Append(action);
-    for (auto _ : state) {
-        ShowActionDetailsDialog(1);
-        XSync(display, False);
-        HideActionDetailsDialog();
-    }
-}
-BENCHMARK(OpeningOfAPreview)->Arg(10)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
 
 }  // namespace

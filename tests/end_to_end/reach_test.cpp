@@ -18,8 +18,6 @@ TEST_P(UnderManager, WhatNobodyAskedForIsOnTopAndLeavesTheKeyboardWhereItIs) {
         wait active editor
         work mail
         wait uppermost mail
-        message id=1 title=Note text=Changed
-        remove message 1
         request id=1 title=One preview=echo
         wait window ActionRequestDialog
         wait uppermost ActionRequestDialog
@@ -31,7 +29,6 @@ TEST_P(UnderManager, WhatNobodyAskedForIsOnTopAndLeavesTheKeyboardWhereItIs) {
         wait property WM_HINTS=3
         key Down Tab Tab Tab Return
         wait window ActionDetailsDialog
-        wait uppermost ActionDetailsDialog
         wait active ActionDetailsDialog
         key Escape
         wait window ActionDetailsDialog gone
@@ -83,5 +80,44 @@ TEST_P(UnderManager, EverythingIsDecidedWithoutAMouse) {
         open
         wait window ActionRequestDialog
         wait active ActionRequestDialog
+    )");
+}
+
+class OnASmallDisplay : public ProgramTest, public testing::WithParamInterface<bool> {
+  protected:
+    OnASmallDisplay() : ProgramTest("640x480") {}
+};
+INSTANTIATE_TEST_SUITE_P(Reach, OnASmallDisplay, testing::Values(true, false));
+
+// With letters of 24 pixels, or with translations of 300 letters.
+TEST_P(OnASmallDisplay, EveryButtonIsInReach) {
+    std::string const large = "*fontSet: -*-fixed-medium-r-normal--24-*,*";
+    Start({}, GetParam() ? std::vector<std::string>{"-xrm", large} : std::vector<std::string>{});
+    std::string lines;
+    for (auto text : {"OK", "Cancel", "Take Action", "Take Actions", "Take All Actions", "Snooze",
+                      "This action requires you to acknowledge the following confirmation message:"})
+        lines += std::string(text) + "\t" + Repeated("wide ", 300) + "\n";
+    if (!GetParam()) Play("support-file _brand.xlat \"" + Replaced(Replaced(lines, "\t", "\\t"), "\n", "\\n") + "\"");
+    Play(R"(
+        initialize snooze
+        request id=1 title=One confirm=Sure?
+        wait window ActionRequestDialog
+        select row 1
+        click form.takeActions
+        wait window ConfirmationDialog
+        click form.cancel
+        wait window ActionRequestDialog
+        click form.takeActions
+        wait window ConfirmationDialog again
+        click form.ok
+        expect ActionTaken ID=1
+        message id=2 title=Two text=Two
+        wait window MessageDialog
+        click form.dismiss
+        request id=3 title=Three
+        wait window ActionRequestDialog
+        click form.snoozeButton
+        expect RemindTime
+        expect RemindInterval
     )");
 }

@@ -20,17 +20,6 @@ TEST_F(Resources, OfTheInstalledExampleTakeEffect) {
     EXPECT_EQ(Background(), 0xeceff1u);
 }
 
-TEST_F(Resources, OfTheCommandLineTakeEffect) {
-    Start({}, {"-xrm", "ActionRequestDialog*background: #123456"});
-    EXPECT_EQ(Background(), 0x123456u);
-}
-
-TEST_F(Resources, ThatWidenTheDialogBeyondTheDisplayLeaveSnoozingInReach) {
-    Start({}, {"-xrm", "*takeActions.internalWidth: 700"});
-    Play("initialize snooze\nrequest id=1 title=One\nwait window ActionRequestDialog\nclick form.snoozeButton");
-    Play("expect RemindTime\nexpect RemindInterval");
-}
-
 TEST_F(Resources, ThatTakeAllWidthAwayCostNoAnswer) {
     Start({}, {"-xrm", "*columnSpacing: 0", "-xrm", "*internalWidth: 0", "-xrm", "*List.list: none"});
     Play(R"(

@@ -20,6 +20,8 @@
 // for, and must end as `ending_` says.
 class ProgramTest : public ::testing::Test {
   protected:
+    explicit ProgramTest(std::string const& display_size = "1280x1024") : display_(display_size) {}
+
     using Environment = std::map<std::string, std::optional<std::string>>;
 
     // Plays lines; starts the program first, with nothing changed, unless that is done or prepared.
