@@ -40,8 +40,8 @@ void ActionRequestWindow::OpenActionPart(ActionRequestContents const& contents, 
 }
 
 Widget ActionRequestWindow::AddButton(char const* name, std::initializer_list<Label> labels, Widget below,
-                                      std::function<void()>& pressed) {
-    ButtonTraits traits{.below = below, .anchor = Anchor::BottomLeft};
+                                      std::function<void()>& pressed, Anchor anchor) {
+    ButtonTraits traits{.below = below, .anchor = anchor};
     for (auto const& label : labels) traits.other_labels.push_back(label.c_str());
     return window_.AddButton(name, labels.begin()->c_str(), std::move(pressed), traits);
 }
@@ -72,9 +72,8 @@ void ActionRequestWindow::OpenSnoozePart(Handlers& handlers) {
     snooze_list_.Create(window_, "snoozeViewport", kSnoozeListWidth, 40, caption, Anchor::BottomLeft, handlers.choice);
     OnChosen(snooze_list_.List(), std::move(handlers.choice));
     controls_[kSnoozeList] = {snooze_list_.List(), &ActionRequestContents::snooze_list};
-    Widget snooze =
-        AddButton("snoozeButton", {ControlLiteral("Snooze"), ControlLiteral("Close")}, caption, handlers.snooze);
-    AnchorInForm(snooze, Anchor::BottomRight);
+    Widget snooze = AddButton("snoozeButton", {ControlLiteral("Snooze"), ControlLiteral("Close")}, caption,
+                              handlers.snooze, Anchor::BottomRight);
     controls_[kSnooze] = {snooze, &ActionRequestContents::snooze_button};
 }
 

@@ -57,7 +57,7 @@ class ActionRequestWindow {
     using Label = AutoNullTerminated<char>;
     // With the first of the labels that it will have.
     Widget AddButton(char const* name, std::initializer_list<Label> labels, Widget below,
-                     std::function<void()>& pressed);
+                     std::function<void()>& pressed, Anchor anchor = Anchor::BottomLeft);
     void OpenActionPart(ActionRequestContents const& contents, Handlers& handlers);
     void OpenButtons(Handlers& handlers);
     void OpenSnoozePart(Handlers& handlers);

@@ -49,7 +49,7 @@ Widget AddExplanation(Widget title) {
     return explanation;
 }
 
-// "cancel" ends where the text ends; "ok" stands left of it, five border widths away.
+// "cancel" ends where the text ends; "ok" stands left of it, five border widths away, and is the last that Tab comes to.
 void AddButtons(Widget text) {
     Widget cancel = window.AddButton("cancel", ControlLiteral("Cancel").c_str(),
                                      [] { Answer(UICommandType::ConfirmationDeclined); }, {.below = text});

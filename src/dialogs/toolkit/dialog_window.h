@@ -55,8 +55,9 @@ struct ButtonTraits {
 //         window.Present({.over = other_shell});
 //     });
 //
-// A dialog adds what stands in it in reading order; all texts are in the locale's encoding, and copied. Sizes and distances
-// are pixels. Main thread only; the object must outlive its window, and closing it destroys every widget in it.
+// A dialog adds what stands in it in the order in which Tab visits it; all texts are in the locale's encoding, and
+// copied. Sizes and distances are pixels. Main thread only; the object must outlive its window, and closing it destroys
+// every widget in it.
 class DialogWindow {
   public:
     // Pixels between neighbours.

@@ -16,6 +16,7 @@
 
 #include "core/process/process_state.h"
 #include "foundation/base/never_destroyed.h"
+#include "foundation/text/local_encoding.h"
 
 namespace {
 
@@ -37,8 +38,7 @@ std::string Showable(char const* text) {
     std::string shown;
     for (; *text; ++text) {
         if (text[0] == '\r' && text[1] == '\n') continue;
-        bool const control = static_cast<unsigned char>(*text) < ' ' && *text != '\n';
-        shown += control ? ' ' : *text;
+        shown += IsControl(*text) && *text != '\n' ? ' ' : *text;
     }
     return shown;
 }
@@ -142,10 +142,6 @@ int BorderWidthOf(Widget widget) {
     return DimensionOf(widget, XtNborderWidth);
 }
 
-int ClampedSize(int pixels) {
-    return std::clamp(pixels, 1, 32767);
-}
-
 int WidestInDisplay() {
     constexpr int kMargins = 16;
     return DisplayWidth(display, DefaultScreen(display)) - kMargins;
@@ -226,7 +222,8 @@ Size SmallestSizeOf(Widget form) {
 
 void Rewiden(Widget widget, int width) {
     XtUnmanageChild(widget);
-    SetResources(widget, {{XtNwidth, ClampedSize(width)}});
+    constexpr int kWidest = 32767;  // Of a size in the X protocol.
+    SetResources(widget, {{XtNwidth, std::clamp(width, 1, kWidest)}});
     XtManageChild(widget);
 }
 

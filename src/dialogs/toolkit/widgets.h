@@ -17,7 +17,7 @@ using WidgetClass = _WidgetClassRec*;
 // rows are not (see ListPane).
 class Argument {
   public:
-    // Pixels, counts and positions. The toolkit keeps sizes in 16 bits: see ClampedSize.
+    // Pixels, counts and positions. The toolkit keeps sizes in 16 bits: Rewiden is for those that may be more.
     Argument(char const* name, int value) : name_(name), value_(value) {}
     Argument(char const* name, bool value) : name_(name), value_(value) {}
     Argument(char const* name, char const* value) : name_(name), value_(reinterpret_cast<long>(value)) {}
@@ -56,9 +56,6 @@ int WidthOf(Widget widget);
 int HeightOf(Widget widget);
 int BorderWidthOf(Widget widget);
 
-// `pixels` within what a size of the X protocol holds: 1 to 32,767.
-int ClampedSize(int pixels);
-
 // Shows another text, in the locale's encoding. Of control characters only line feeds mean something in a label: others
 // are blanks, and a carriage return before a line feed is nothing.
 void SetLabel(Widget label, char const* text);
@@ -92,7 +89,8 @@ struct Size {
 };
 Size SmallestSizeOf(Widget form);
 
-// Gives a managed widget a new width behind its parent's back and lets the parent lay it out again.
+// Gives a managed widget a new width, within 1 to 32,767 pixels, behind its parent's back and lets the parent lay it out
+// again.
 void Rewiden(Widget widget, int width);
 
 // What becomes of a form's child when the window changes its size: it keeps its size and its distance from a corner, or

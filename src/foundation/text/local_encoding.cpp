@@ -80,6 +80,6 @@ FixedAscii<48> IANAEncodingName(Local8Bit) {
 AutoNullTerminated<char> OneLine(AutoNullTerminated<char> const& text) {
     Stringy line = text.c_str();
     for (char& byte : line)
-        if (static_cast<unsigned char>(byte) < ' ' || byte == '\x7F') byte = ' ';
+        if (IsControl(byte)) byte = ' ';
     return {line.data(), line.data() + line.size()};
 }

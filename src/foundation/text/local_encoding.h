@@ -39,6 +39,11 @@ FixedAscii<48> IANAEncodingName(Local8Bit);
 
 }  // namespace UnixPlatform
 
+// A control character of ASCII: line feeds, tabs and the delete character among them.
+constexpr bool IsControl(char byte) {
+    return static_cast<unsigned char>(byte) < ' ' || byte == '\x7F';
+}
+
 // A copy in which every control character of ASCII, line feeds and tabs among them, is a blank: for what has one line to
 // show. `text` is in the local encoding.
 AutoNullTerminated<char> OneLine(AutoNullTerminated<char> const& text);
