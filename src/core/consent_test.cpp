@@ -133,7 +133,7 @@ TEST(Consent, NothingIsTakenThatWasNotAgreedToWhateverIsSaidAndPressed) {
 
 }  // namespace
 
-// In place of the dialogs.
+// In place of the dialogs that matter here; without a display the others do nothing.
 #define STUB(function, body) function body
 STUB(bool IsActionRequestDialogShown(), { return now.shown; })
 STUB(void ShowActionRequestDialog(bool, TimeInterval const&, bool), { now.enabled |= !std::exchange(now.shown, true); })
