@@ -6,23 +6,16 @@
 #include <sstream>
 #include <string>
 
-#include "core/client_messages.h"
-#include "core/process/process_state.h"
+#include "core/core_test_support.h"
 #include "core/process/ui_command.h"
 #include "core/tick.h"
 #include "core/ui_commands.h"
-#include "tools/client_messages.h"
 
 // Dispatch, commands and the tick's sweep, without a display: every dialog function then does nothing.
 
 namespace {
 
-// An action in short: its ID, a digit; its confirmation text, a small letter; its title, a capital.
-std::string Short(ActionRequest const& action) {
-    std::string text = std::to_string(action.id);
-    if (action.pre_action_message) text += action.pre_action_message->Ref().AsStringView();
-    return text.append(action.title.Ref().AsStringView());
-}
+// A capital is a title, a small letter a confirmation text.
 std::string RequestLine(std::string const& action) {
     std::string line = "request";
     for (char const letter : action)
@@ -44,29 +37,13 @@ struct CoreTest : testing::Test {
         initialized = true;
         Replies();
     }
-    // One document of what the lines say. Unknown elements count for nothing, nor does the root's name.
-    void Receive(std::string const& lines) {
-        std::istringstream text(lines);
-        std::string children = tools::Element("Unknown", "");
-        for (std::string line; std::getline(text, line);) children += tools::MessageFor(tools::ParseScenarioLine(line));
-        readQ.WriteMessage(UIMessage(UStringRef<UTF8>(tools::Element("AnyRoot", children))));
-        ProcessMessagesFromClient();
-    }
     void Decide(UICommandType type, unsigned long long id = 0, int minutes = 0, long long deadline_seconds = 0) {
         QueueCommand(type, id, minutes, deadline_seconds);
         ProcessMessagesFromUI();
     }
-    // What has been sent since the last call.
     std::string Replies() {
-        FiFoQueue<UIMessage> sent;
         std::string replies;
-        for (writeQ.ReadMessages(sent); !sent.IsEmpty();) {
-            auto reply = tools::ReadAnswer(sent.TakeFront().Text().AsStringView());
-            if (reply.name == "ActionTaken")
-                replies += (reply.fields["IsCancel"] == "true" ? "cancelled" : "taken") + reply.fields["ID"] + " ";
-            else
-                replies += reply.Text() + " ";
-        }
+        for (auto const& reply : ::Replies()) replies += reply + " ";
         return replies;
     }
     std::string Pending() {
