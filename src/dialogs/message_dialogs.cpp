@@ -1,7 +1,7 @@
 #include "dialogs/message_dialogs.h"
 
-#include <algorithm>
-#include <list>
+#include <cstdint>
+#include <map>
 
 #include "core/process/process_state.h"
 #include "dialogs/toolkit/dialog_window.h"
@@ -26,8 +26,11 @@ struct MessageDialog {
     AutoNullTerminated<char> Message() const;
 };
 
-// In opening order. Never destroyed: the process may exit from anywhere.
-std::list<MessageDialog>& dialogs = NeverDestroyed<std::list<MessageDialog>>();
+// In opening order, which the places number, and the place of each ID. Never destroyed: the process may exit from
+// anywhere.
+using Place = std::uint64_t;
+auto& dialogs = NeverDestroyed<std::map<Place, MessageDialog>>();
+auto& places = NeverDestroyed<std::map<unsigned long long, Place>>();
 
 AutoNullTerminated<char> MessageDialog::Title() const {
     if (request.is_completion_message) return ControlLiteral("Corvane notification:");
@@ -39,10 +42,10 @@ AutoNullTerminated<char> MessageDialog::Message() const {
     return MakePlatformString(UFormat("Action \"{actionTitle}\" has completed.").With(request.title));
 }
 
-template <class Matches>
-void RemoveFirst(Matches matches) {
-    auto found = std::find_if(dialogs.begin(), dialogs.end(), matches);
-    if (found != dialogs.end()) dialogs.erase(found);
+// A new one is the last.
+MessageDialog& DialogOf(unsigned long long id) {
+    static Place next = 0;
+    return dialogs[places.try_emplace(id, next++).first->second];
 }
 
 void Open(MessageDialog& dialog) {
@@ -50,7 +53,7 @@ void Open(MessageDialog& dialog) {
         auto& window = dialog.window;
         window.Open(dialog.Title().c_str());
         dialog.text = window.AddText("actionmessage", dialog.Message().c_str());
-        auto const dismiss = [&dialog] { RemoveFirst([&](auto const& open) { return &open == &dialog; }); };
+        auto const dismiss = [id = dialog.request.id] { RemoveMessageDialog(id); };
         Widget button = window.AddButton("dismiss", ControlLiteral("OK").c_str(), dismiss, {.below = dialog.text});
         window.AlignRight(button, dialog.text);
         window.SetFirstFocus(button);
@@ -73,29 +76,31 @@ Instant ExpiryOf(MessageRequest const& request) {
 }  // namespace
 
 void ShowMessageDialog(MessageRequest const& request) {
-    auto dialog = std::find_if(dialogs.begin(), dialogs.end(),
-                               [&](MessageDialog const& open) { return open.request.id == request.id; });
-    if (dialog == dialogs.end()) dialog = dialogs.emplace(dialogs.end());
-    dialog->request = request;
-    dialog->expiry = ExpiryOf(request);
-    if (dialog->window.IsOpen())
-        Refresh(*dialog);
+    MessageDialog& dialog = DialogOf(request.id);
+    dialog.request = request;
+    dialog.expiry = ExpiryOf(request);
+    if (dialog.window.IsOpen())
+        Refresh(dialog);
     else
-        Open(*dialog);
+        Open(dialog);
 }
 
 void RemoveMessageDialog(unsigned long long id) {
-    RemoveFirst([id](MessageDialog const& dialog) { return dialog.request.id == id; });
+    auto const place = places.find(id);
+    if (place == places.end()) return;
+    dialogs.erase(place->second);
+    places.erase(place);
 }
 
 void RemoveTimedoutMessageDialogs() {
     Instant const now = Instant::Now();
-    for (auto dialog = dialogs.begin(); dialog != dialogs.end();) {
-        bool const over = dialog->expiry != kNever && dialog->expiry <= now;
-        dialog = over ? dialogs.erase(dialog) : std::next(dialog);
+    for (auto next = dialogs.begin(); next != dialogs.end();) {
+        auto const& dialog = next++->second;
+        bool const over = dialog.expiry != kNever && dialog.expiry <= now;
+        if (over) RemoveMessageDialog(dialog.request.id);
     }
 }
 
 void OpenWaitingMessageDialogs() {
-    for (auto& dialog : dialogs) Open(dialog);
+    for (auto& [place, dialog] : dialogs) Open(dialog);
 }

@@ -11,7 +11,7 @@
 // without one makes the message permanent.
 void ShowMessageDialog(MessageRequest const& request);
 
-// Closes the first message of this ID, if there is one.
+// Closes the message of this ID, if there is one.
 void RemoveMessageDialog(unsigned long long id);
 
 // Closes the messages whose time is over, one of no length with the tick that shows it.

@@ -26,7 +26,8 @@
 
 namespace {
 
-std::vector<DialogWindow*>& open_windows = NeverDestroyed<std::vector<DialogWindow*>>();
+// The open dialog of each shell and of each text.
+auto& open_windows = NeverDestroyed<std::map<Widget, DialogWindow*>>();
 
 // It has a procedure because the toolkit warns of actions that have none.
 void Nothing(Widget, XEvent const&) {}
@@ -45,8 +46,8 @@ void SetProperty(Widget shell, char const* name, Atom type, unsigned long value)
 DialogWindow* DialogOf(Window window) {
     Widget widget = XtWindowToWidget(display, window);
     while (widget && XtParent(widget)) widget = XtParent(widget);
-    auto const found = std::ranges::find(open_windows, widget, &DialogWindow::Shell);
-    return found == open_windows.end() ? nullptr : *found;
+    auto const found = open_windows.find(widget);
+    return found == open_windows.end() ? nullptr : found->second;
 }
 
 bool FilterKey(XEvent const& event) {
@@ -67,8 +68,7 @@ bool FilterButton(XEvent const& event) {
 // safe to look at then.
 bool FilterProperty(XEvent const& event) {
     Widget const listener = XtWindowToWidget(display, event.xproperty.window);
-    auto const listens = [listener](DialogWindow const* dialog) { return dialog->MayListen(listener); };
-    return listener && listener != qenHidden && std::ranges::none_of(open_windows, listens);
+    return listener && listener != qenHidden && !open_windows.contains(listener);
 }
 
 bool HasWindowManager() {
@@ -141,7 +141,7 @@ void DialogWindow::Open(char const* title) {
                           {XtNclientLeader, qenHidden},
                           {"openIm", false}});
     OverrideTranslations(shell_, "<Message>WM_PROTOCOLS: SystemMenuClose()\n");
-    open_windows.push_back(this);
+    open_windows[shell_] = this;
     // The gap between neighbours, in which the focus is shown: whatever a user's resources say.
     form_ = Create(shell_, "form", formWidgetClass, {{XtNdefaultDistance, kGap}});
     focus_.Begin(form_);
@@ -171,6 +171,7 @@ Widget DialogWindow::AddText(char const* name, char const* text, TextTraits cons
     SetSensitive(added, traits.sensitive);
     AnchorInForm(added, traits.anchor);
     texts_.push_back(added);
+    open_windows[added] = this;
     AddControl({.widget = added, .outline = added, .scroll = [added](Move move, int lines) {
                     ScrollText(added, move, lines);
                 }});
@@ -261,10 +262,6 @@ bool DialogWindow::HandleKey(XEvent const& event) {
     return focus_.HandleKey(backwards ? XK_ISO_Left_Tab : meaning, repeated);
 }
 
-bool DialogWindow::MayListen(Widget widget) const {
-    return widget == shell_ || std::ranges::find(texts_, widget) != texts_.end();
-}
-
 void DialogWindow::HandleButton(XEvent const& event) {
     unsigned const button = event.xbutton.button;
     if (button == Button4 || button == Button5)
@@ -303,19 +300,23 @@ void DialogWindow::SetTitle(char const* title) {
 void DialogWindow::Close() {
     if (!shell_) return;
     focus_ = {};
-    std::erase(open_windows, this);
+    for (Widget text : texts_) open_windows.erase(text);
+    open_windows.erase(shell_);
     texts_.clear();
     form_ = nullptr;
     XtDestroyWidget(std::exchange(shell_, nullptr));
 }
 
 void LeadDialogWindows() {
-    for (auto const* window : open_windows) SetResources(window->Shell(), {{XtNclientLeader, qenHidden}});
+    for (auto const& [widget, window] : open_windows) SetResources(window->Shell(), {{XtNclientLeader, qenHidden}});
 }
 
+// Waiting for the server to confirm the position, the toolkit would look through all events that have come, at each of
+// many dialogs that open at once.
 void CenterDialogOnDisplay(Widget shell) {
     int screen = DefaultScreen(display);
-    SetResources(shell, {{XtNx, (DisplayWidth(display, screen) - WidthOf(shell)) / 2},
+    SetResources(shell, {{XtNwaitForWm, false},
+                         {XtNx, (DisplayWidth(display, screen) - WidthOf(shell)) / 2},
                          {XtNy, (DisplayHeight(display, screen) - HeightOf(shell)) / 2}});
 }
 

@@ -120,8 +120,6 @@ class DialogWindow {
     // and with it end this object.
     bool HandleKey(_XEvent const& event);
     void HandleButton(_XEvent const& event);
-    // Whether the toolkit may hand events of other programs' windows to this widget: it is the shell or one of the texts.
-    bool MayListen(Widget widget) const;
 
     // Destroys the window, if it is open.
     void Close();
