@@ -20,6 +20,18 @@ Display* Open(std::string const& name) {
     return display;
 }
 
+// Whether a line of the border's colour goes round it, a pixel off its border of one.
+bool IsOutlined(Display* display, Area const& area) {
+    std::pair<int, int> const sides[] = {{area.x - 3, area.MiddleY()},
+                                         {area.Right() + 2, area.MiddleY()},
+                                         {area.MiddleX(), area.y - 3},
+                                         {area.MiddleX(), area.Bottom() + 2}};
+    auto const colour = PixelAt(display, area.x - 1, area.MiddleY());
+    bool const apart = PixelAt(display, area.x - 2, area.MiddleY()) != colour;
+    auto const drawn = [&](auto const& place) { return PixelAt(display, place.first, place.second) == colour; };
+    return apart && std::ranges::all_of(sides, drawn);
+}
+
 }  // namespace
 
 DisplayDriver::DisplayDriver(std::string const& name)
@@ -51,6 +63,15 @@ std::set<std::string> DisplayDriver::SensitiveControls(Window shell) {
         if (editres_.ReadResource(shell, widget, "sensitive") == "true") sensitive.insert(path);
     }
     return sensitive;
+}
+
+std::string DisplayDriver::OutlinedControls(Window shell) {
+    std::string outlined;
+    for (auto const& [path, widget] : editres_.ReadTree(shell)) {
+        bool const in_form = std::ranges::count(path, '.') == 1;
+        if (in_form && IsOutlined(display_.get(), AreaOf(display_.get(), widget.window))) outlined += path;
+    }
+    return outlined;
 }
 
 // A text's scroll bar is a child of its window, but no child of its widget.
@@ -161,10 +182,11 @@ void DisplayDriver::Type(std::string const& key) {
         if (code == 0) throw std::runtime_error("no key " + name);
         XTestFakeKeyEvent(display_.get(), code, down, CurrentTime);
     };
-    bool const shifted = key.starts_with("Shift+");
-    if (shifted) press("Shift_L", true);
-    for (bool down : {true, false}) press(key.substr(shifted ? 6 : 0), down);
-    if (shifted) press("Shift_L", false);
+    auto const plus = key.find('+');
+    auto const modifier = plus == std::string::npos ? "" : key.substr(0, plus) + "_L";
+    if (plus != std::string::npos) press(modifier, true);
+    for (bool down : {true, false}) press(key.substr(plus + 1), down);
+    if (plus != std::string::npos) press(modifier, false);
     XFlush(display_.get());
 }
 

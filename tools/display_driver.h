@@ -52,6 +52,9 @@ class DisplayDriver {
     // The paths of all lists and buttons that are sensitive.
     std::set<std::string> SensitiveControls(Window shell);
 
+    // The path of the control that is outlined, as what has the focus is; of all of them, if there are more.
+    std::string OutlinedControls(Window shell);
+
     // What a user selects by dragging the pointer over all that is visible of a text: nothing when it is insensitive.
     std::string ReadText(Window shell, std::string const& path);
 
@@ -68,7 +71,7 @@ class DisplayDriver {
     void SelectLine(Window shell, std::string const& path, size_t line);
     // Whether two of these lines look the same.
     bool LinesLookAlike(Window shell, std::string const& path, size_t one, size_t other);
-    // Types a key by its name (X11/keysymdef.h), as in "Return" or "Shift+Tab", wherever the keyboard is.
+    // Types a key by its name (X11/keysymdef.h), as in "Return", "Shift+Tab" or "Control+c", wherever the keyboard is.
     void Type(std::string const& key);
     // Turns the wheel once over a widget.
     void TurnWheel(Window shell, std::string const& path, bool up);

@@ -179,6 +179,7 @@ std::string ScenarioPlayer::Look(ScenarioLine const& line, std::string const& ke
     if (what == "property") return Screen().ReadProperty(window_, key);
     if (what == "active") return Screen().ActiveWindow();
     if (what == "uppermost") return Screen().UppermostWindow();
+    if (what == "focus") return Screen().OutlinedControls(window_);
     if (what == "sensitive") return Joined(Screen().SensitiveControls(window_));
     if (what == "text") return Screen().ReadText(window_, line.Word(2));
     if (what != "rows") throw std::runtime_error("nothing to wait for");

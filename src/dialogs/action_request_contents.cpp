@@ -56,7 +56,7 @@ void DescribeAll(ActionRequestContents& contents, PendingActions const& pending)
 }
 
 void DescribeOne(ActionRequestContents& contents, ActionRequest const& action) {
-    contents.title = OneLine(MakePlatformString(UFormat("{actionTitle}").With(action.title)));
+    contents.title = MakePlatformString(UFormat("{actionTitle}").With(action.title));
     contents.take_label = ControlLiteral("Take Action");
     contents.cancel_label = ControlLiteral("Cancel Action");
     contents.description = DescriptionOf(action);
@@ -102,10 +102,10 @@ std::vector<AutoNullTerminated<char>> MakeActionRows(PendingActions const& pendi
     std::vector<AutoNullTerminated<char>> rows;
     rows.reserve(pending.size());
     for (auto const& action : pending) {
-        auto title = OneLine(MakeLocalString<UTF8>(action.title));
-        auto const deadline = action.Deadline();
-        rows.push_back(deadline ? Joined(title, MakeLocalString<UTF8>(UnixPlatform::FormattedLocalTime(*deadline)))
-                                : std::move(title));
+        auto row = MakeLocalString<UTF8>(action.title);
+        if (auto const deadline = action.Deadline())
+            row = Joined(row, MakeLocalString<UTF8>(UnixPlatform::FormattedLocalTime(*deadline)));
+        rows.push_back(OneLine(row.c_str()));
     }
     return rows;
 }

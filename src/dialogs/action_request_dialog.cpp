@@ -34,6 +34,10 @@ Dialog& dialog = NeverDestroyed<Dialog>();
 unsigned long long const* SelectedID() {
     return dialog.selected_row < 0 ? nullptr : &dialog.ids[static_cast<std::size_t>(dialog.selected_row)];
 }
+std::optional<unsigned long long> Selected() {
+    auto const* id = SelectedID();
+    return id ? std::optional(*id) : std::nullopt;
+}
 
 // ---- Handlers
 
@@ -89,7 +93,7 @@ void RebuildRows() {
 void RebuildChoices(bool any_deadline) {
     dialog.choices = MakeSnoozeChoices(any_deadline);
     std::vector<AutoNullTerminated<char>> rows;
-    for (auto const& choice : dialog.choices) rows.push_back(MakeLocalString<UTF8>(choice.label));
+    for (auto const& choice : dialog.choices) rows.push_back(OneLine(MakeLocalString<UTF8>(choice.label).c_str()));
     dialog.selected_choice = DefaultSnoozeRow(dialog.choices, dialog.default_interval);
     dialog.window.SnoozeList().ShowRows(std::move(rows));
     dialog.window.SnoozeList().Highlight(dialog.selected_choice);
@@ -119,12 +123,16 @@ void RefreshOrReport(F&& refresh) {
     }
 }
 
+// Where another action has come to be the selected one, the focus leaves the buttons: a key that was meant for the one
+// before decides nothing.
 void Refresh() {
     dialog.update_wanted = false;
+    auto const selected = Selected();
     RefreshOrReport([] {
         RebuildRows();
         RefreshContents();
     });
+    if (Selected() != selected) dialog.window.ResetFocus();
 }
 
 // The row that the list highlights, by the pointer or by the keyboard.
@@ -161,7 +169,7 @@ void Build(bool asked_for) {
     ForgetSelectionBeyond(actions.size());
     FetchIDs();
     auto const contents = MakeActionRequestContents(actions, SelectedID(), dialog.snoozable);
-    dialog.window.Open(contents, Handlers());
+    dialog.window.Open(Handlers());
     ListenToRows();
     dialog.enabled = true;
     dialog.highlighted_row = -1;

@@ -5,6 +5,7 @@
 
 #include "dialogs/toolkit/callbacks.h"
 #include "dialogs/toolkit/read_only_text.h"
+#include "foundation/text/local_encoding.h"
 #include "localisation/localized_strings.h"
 #include "localisation/uformat.h"
 
@@ -19,16 +20,15 @@ int OuterWidthOf(Widget widget) {
 
 }  // namespace
 
-void ActionRequestWindow::Open(ActionRequestContents const& contents, Handlers handlers) {
+void ActionRequestWindow::Open(Handlers handlers) {
     window_.Open(ControlLiteral(LocalizedStrings::ActionRequestTitle()).c_str());
-    OpenActionPart(contents, handlers);
+    OpenActionPart(handlers);
     OpenButtons(handlers);
     OpenSnoozePart(handlers);
 }
 
-void ActionRequestWindow::OpenActionPart(ActionRequestContents const& contents, Handlers& handlers) {
-    title_ = window_.AddLabel("actiontitle", contents.title.c_str(),
-                              {.framed = true, .width = 500, .anchor = Anchor::TopWide});
+void ActionRequestWindow::OpenActionPart(Handlers& handlers) {
+    title_ = window_.AddLabel("actiontitle", "", {.framed = true, .width = 500, .anchor = Anchor::TopWide});
     description_ = window_.AddText("actiondesc", "",
                                    {.below = title_, .height = 70, .sensitive = true, .anchor = Anchor::TopWide});
     shown_description_.clear();
@@ -85,7 +85,7 @@ void ActionRequestWindow::Present(bool asked_for) {
 }
 
 void ActionRequestWindow::ShowTexts(ActionRequestContents const& contents, unsigned long long const* described) {
-    SetLabel(title_, contents.title.c_str());
+    SetLabel(title_, OneLine(contents.title.c_str()).c_str());
     SetLabel(At(kTake), contents.take_label.c_str());
     SetLabel(At(kCancel), contents.cancel_label.c_str());
     SetLabel(At(kSnooze), contents.snooze_label.c_str());

@@ -31,12 +31,13 @@ class ActionRequestWindow {
         window_.Build(std::forward<F>(build));
     }
     [[noreturn]] void ReportUnbuildable() const { window_.ReportUnbuildable(); }
-    // Makes the widgets with the texts of the contents; the lists are empty yet.
-    void Open(ActionRequestContents const& contents, Handlers handlers);
+    // Makes the widgets; nothing stands in them yet.
+    void Open(Handlers handlers);
     // Puts everything in its place, where it stays whatever is shown from then on, and shows the window.
     void Present(bool asked_for);
     void Close() { window_.Close(); }
     void SetUrgent() { window_.SetUrgent(); }
+    void ResetFocus() { window_.ResetFocus(); }
 
     // Shows the texts, the description as that of the action `described` or, when it is null, of all: what is being read
     // stays in view while its countdown runs.
@@ -58,7 +59,7 @@ class ActionRequestWindow {
     // With the first of the labels that it will have.
     Widget AddButton(char const* name, std::initializer_list<Label> labels, Widget below,
                      std::function<void()>& pressed, Anchor anchor = Anchor::BottomLeft);
-    void OpenActionPart(ActionRequestContents const& contents, Handlers& handlers);
+    void OpenActionPart(Handlers& handlers);
     void OpenButtons(Handlers& handlers);
     void OpenSnoozePart(Handlers& handlers);
     void ShowDescription(char const* text, unsigned long long const* described);

@@ -30,7 +30,7 @@ Texts TextsFor(unsigned long long id) {
     Texts texts;
     // The very entry that is asked about: another of its ID may stand before it.
     ActionRequest const* action = m_askedAbout ? &*m_askedAbout : actions.FindAction(id);
-    if (action) texts.action_title = OneLine(MakeLocalString<UTF8>(action->title));
+    if (action) texts.action_title = OneLine(MakeLocalString<UTF8>(action->title).c_str());
     if (action && action->pre_action_message)
         texts.confirmation = MakeLocalString<UTF8>(action->pre_action_message->Ref());
     return texts;
@@ -49,12 +49,13 @@ Widget AddExplanation(Widget title) {
     return explanation;
 }
 
-// "cancel" ends where the text ends; "ok" stands left of it, five border widths away, and is the last that Tab comes to.
+// "cancel" ends where the text ends; "ok" stands left of it, five border widths away. From "cancel" it takes Tab twice to
+// come to "ok": somebody who types a name, Tab, a password and Return into another window accepts nothing.
 void AddButtons(Widget text) {
-    Widget cancel = window.AddButton("cancel", ControlLiteral("Cancel").c_str(),
-                                     [] { Answer(UICommandType::ConfirmationDeclined); }, {.below = text});
     Widget ok = window.AddButton("ok", ControlLiteral("OK").c_str(),
                                  [] { Answer(UICommandType::ConfirmationAccepted); }, {.below = text});
+    Widget cancel = window.AddButton("cancel", ControlLiteral("Cancel").c_str(),
+                                     [] { Answer(UICommandType::ConfirmationDeclined); }, {.below = text});
     // A translation of either leaves the other its half.
     for (Widget button : {cancel, ok}) CutToWidth(button, (WidthOf(text) - 8 * BorderWidthOf(text)) / 2);
     window.AlignRight(cancel, text);

@@ -34,7 +34,7 @@ auto& places = NeverDestroyed<std::map<unsigned long long, Place>>();
 
 AutoNullTerminated<char> MessageDialog::Title() const {
     if (request.is_completion_message) return ControlLiteral("Corvane notification:");
-    return OneLine(MakeLocalString<UTF8>(request.title));
+    return MakeLocalString<UTF8>(request.title);
 }
 
 AutoNullTerminated<char> MessageDialog::Message() const {

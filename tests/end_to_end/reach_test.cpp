@@ -16,6 +16,10 @@ TEST_P(UnderManager, WhatNobodyAskedForIsOnTopAndLeavesTheKeyboardWhereItIs) {
         wait window MessageDialog
         wait uppermost MessageDialog
         wait active editor
+        press form.actionmessage
+        wait active MessageDialog
+        key Escape
+        wait window MessageDialog gone
         work mail
         wait uppermost mail
         request id=1 title=One preview=echo
@@ -66,7 +70,7 @@ TEST_P(UnderManager, EverythingIsDecidedWithoutAMouse) {
         key Tab Return
         wait window ConfirmationDialog
         wait active ConfirmationDialog
-        key Shift+Tab Shift+Tab Return
+        key Tab Tab Return
         expect ActionTaken ID=2 IsCancel=false
         request id=3 title=Three
         request id=9 title=Overdue force deadline=-1h
@@ -80,6 +84,65 @@ TEST_P(UnderManager, EverythingIsDecidedWithoutAMouse) {
         open
         wait window ActionRequestDialog
         wait active ActionRequestDialog
+    )");
+}
+
+// Who types without looking, or what was meant for another window, or for what stood there a moment ago.
+TEST_P(UnderManager, AStrayKeyDecidesNothing) {
+    Play(R"(
+        initialize
+        request id=1 title=One cancellable
+        request id=2 title=Two cancellable
+        request id=3 title=Three confirm=Sure?
+        wait window ActionRequestDialog
+        press form.actionListLabel
+        wait active ActionRequestDialog
+        wait focus form.viewport
+        key Tab
+        wait focus form.takeAllActions
+        select row 1
+        wait focus form.viewport
+        key space Tab Tab Control+Return Control+space
+        message id=4 title=Note text=Hello
+        wait window MessageDialog
+        press form.actionmessage
+        wait active MessageDialog
+        key Escape
+        wait window ActionRequestDialog
+        wait active ActionRequestDialog
+        wait focus form.viewport
+        key Return Tab Tab
+        remove action 1
+        wait focus form.viewport
+        key Return Tab Tab Tab space
+        expect ActionTaken ID=2 IsCancel=true
+        wait focus form.viewport
+        key Return Tab Tab Return
+        wait window ConfirmationDialog
+        wait focus form.cancel
+        key Tab Return Escape
+        wait window ConfirmationDialog gone
+        request id=9 title=Overdue force deadline=-1h
+        expect ActionTaken ID=9
+    )");
+}
+
+class WithoutAManager : public ProgramTest {};
+
+TEST_F(WithoutAManager, TheKeyboardGoesWhereTheUserPressesAndComesBack) {
+    Play(R"(
+        initialize
+        request id=1 title=One confirm=Sure?
+        wait window ActionRequestDialog
+        press form.actionListLabel
+        wait focus form.viewport
+        key Down Tab Tab Return
+        wait window ConfirmationDialog
+        wait focus form.cancel
+        key Escape
+        wait window ConfirmationDialog gone
+        wait window ActionRequestDialog
+        wait focus form.viewport
     )");
 }
 

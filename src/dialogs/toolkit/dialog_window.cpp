@@ -22,6 +22,7 @@
 #include "dialogs/toolkit/callbacks.h"
 #include "dialogs/toolkit/read_only_text.h"
 #include "foundation/base/never_destroyed.h"
+#include "foundation/text/local_encoding.h"
 #include "foundation/text/transcode.h"
 
 namespace {
@@ -131,9 +132,10 @@ void DialogWindow::ReportUnbuildable() const {
 // Nothing is typed into a dialog, so none opens an input method: that would read its long table of key sequences, or wait
 // for a server of its own.
 void DialogWindow::Open(char const* title) {
+    auto const line = OneLine(title);
     shell_ = CreateShell(name_, "XQENClientUI",
-                         {{XtNtitle, title},
-                          {XtNiconName, title},
+                         {{XtNtitle, line.c_str()},
+                          {XtNiconName, line.c_str()},
                           {XtNmappedWhenManaged, false},
                           {XtNallowShellResize, true},
                           {XtNinput, true},
@@ -181,6 +183,7 @@ Widget DialogWindow::AddText(char const* name, char const* text, TextTraits cons
 Widget DialogWindow::AddButton(char const* name, char const* label, std::function<void()> pressed,
                                ButtonTraits const& traits) {
     Widget button = CreateLabel(form_, name, commandWidgetClass, label, traits.below);
+    SetSensitive(button, true);  // Whatever a user's resources say.
     FixWidth(button, traits.other_labels);
     AnchorInForm(button, traits.anchor);
     OnPressed(button, pressed);
@@ -212,6 +215,7 @@ void DialogWindow::Present(WindowTraits const& traits) {
     CenterDialogOnDisplay(shell_);
     SetSmallestSize();
     asked_for_ = traits.asked_for;
+    over_ = traits.over;
     if (!asked_for_) SetResources(shell_, {{XtNinput, false}});
     Atom close = AtomOf("WM_DELETE_WINDOW");
     XSetWMProtocols(display, XtWindow(shell_), &close, 1);
@@ -264,10 +268,10 @@ bool DialogWindow::HandleKey(XEvent const& event) {
 
 void DialogWindow::HandleButton(XEvent const& event) {
     unsigned const button = event.xbutton.button;
-    if (button == Button4 || button == Button5)
-        focus_.HandleWheel(XtWindowToWidget(display, event.xbutton.window), button == Button4);
-    else if (!HasWindowManager())
-        TakeKeyboard(shell_, event.xbutton.time);
+    Widget const under = XtWindowToWidget(display, event.xbutton.window);
+    if (button == Button4 || button == Button5) return focus_.HandleWheel(under, button == Button4);
+    if (button == Button1) focus_.HandlePress(under);
+    if (!HasWindowManager()) TakeKeyboard(shell_, event.xbutton.time);
 }
 
 void DialogWindow::SetProperties(WindowTraits const& traits) {
@@ -293,12 +297,15 @@ void DialogWindow::SetTitleProperty(char const* title) {
 }
 
 void DialogWindow::SetTitle(char const* title) {
-    SetResources(shell_, {{XtNtitle, title}, {XtNiconName, title}});
-    SetTitleProperty(title);
+    auto const line = OneLine(title);
+    SetResources(shell_, {{XtNtitle, line.c_str()}, {XtNiconName, line.c_str()}});
+    SetTitleProperty(line.c_str());
 }
 
 void DialogWindow::Close() {
     if (!shell_) return;
+    // Where no window manager gives the keyboard on.
+    if (focus_.IsShown() && open_windows.contains(over_) && !HasWindowManager()) TakeKeyboard(over_, CurrentTime);
     focus_ = {};
     for (Widget text : texts_) open_windows.erase(text);
     open_windows.erase(shell_);

@@ -82,7 +82,7 @@ class DialogWindow {
     // That report and that end.
     [[noreturn]] void ReportUnbuildable() const;
 
-    // Makes the shell, not yet visible, and its empty form.
+    // Makes the shell, not yet visible, and its empty form. A title has one line.
     void Open(char const* title);
 
     Widget AddLabel(char const* name, char const* text, LabelTraits const& traits = {});
@@ -139,6 +139,7 @@ class DialogWindow {
     std::vector<Widget> texts_;
     FocusRing focus_;
     bool asked_for_ = false;
+    Widget over_ = nullptr;
 };
 
 // Makes the hidden shell the leader (ICCCM 4.1.11) of the windows that were opened before it; later ones have it at once.

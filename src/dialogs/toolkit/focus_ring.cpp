@@ -172,8 +172,18 @@ bool FocusRing::GoOrScroll(Move move) const {
     return true;
 }
 
+std::size_t FocusRing::IndexOfScrolled(Widget under) const {
+    auto const found = std::ranges::find_if(
+        controls_, [under](Control const& control) { return control.scroll && IsWithin(under, control.outline); });
+    return static_cast<std::size_t>(found - controls_.begin());
+}
+
 void FocusRing::HandleWheel(Widget under, bool up) const {
-    for (auto const& control : controls_)
-        if (control.scroll && IsWithin(under, control.outline))
-            return control.scroll(up ? Move::LineUp : Move::LineDown, kWheelLines);
+    auto const index = IndexOfScrolled(under);
+    if (index < controls_.size()) controls_[index].scroll(up ? Move::LineUp : Move::LineDown, kWheelLines);
+}
+
+void FocusRing::HandlePress(Widget under) {
+    auto const index = IndexOfScrolled(under);
+    if (index < controls_.size() && Reacts(controls_[index])) Visit(index);
 }

@@ -24,6 +24,9 @@ struct Control {
 // arrows, Home, End, Page Up and Page Down move in the list that has it, or else scroll the text that has it, or else the
 // dialog's first text; Escape presses the dialog's escape, if it has one. A key that is held down presses once.
 //
+// The pointer moves the focus to the list or the text that it presses: what is typed next is meant for that, and for no
+// button that had it before.
+//
 // Whoever types without looking consents to nothing: whenever the keyboard comes to the dialog, and after each decision,
 // the focus is back where it was at first.
 class FocusRing {
@@ -49,10 +52,14 @@ class FocusRing {
     bool HandleKey(unsigned long key, bool held);
     // Turns the wheel over `under`: scrolls the control that it is part of.
     void HandleWheel(Widget under, bool up) const;
+    // Presses the pointer's first button over `under`.
+    void HandlePress(Widget under);
 
   private:
     bool Reacts(Control const& control) const;
     Control const* Find(Widget widget) const;
+    // The list or the text that `under` is part of, or the end.
+    std::size_t IndexOfScrolled(Widget under) const;
     void Visit(std::size_t index);
     void Advance(std::size_t step);
     bool Press(Control const* control, bool held) const;

@@ -68,16 +68,17 @@ std::size_t LengthOfLine(XFontSet fonts, std::string_view text, int width) {
     return end;
 }
 
-// The text in lines that fit, at most so many; what is left over is left out.
+// The text in lines that fit: what is too long goes on in the next line, at most so many in all, or is left out for 0.
 std::string InLines(XFontSet fonts, std::string_view text, int width, int most_lines) {
     std::string lines;
-    for (int line = 0; line < most_lines && !text.empty(); ++line) {
+    for (int line = 0; !text.empty() && (most_lines == 0 || line < most_lines); ++line) {
         auto const paragraph = text.substr(0, text.find('\n'));
         auto const length = LengthOfLine(fonts, paragraph, width);
         if (line > 0) lines += '\n';
         lines += paragraph.substr(0, length);
-        text.remove_prefix(length);
-        if (length == paragraph.size() && !text.empty()) text.remove_prefix(1);
+        bool const done = most_lines == 0 || length == paragraph.size();
+        text.remove_prefix(done ? paragraph.size() : length);
+        if (done && !text.empty()) text.remove_prefix(1);
     }
     return lines;
 }
@@ -178,7 +179,7 @@ void FitToDisplay(Widget label, int most_lines) {
     XtVaGetValues(label, XtNinternalWidth, &margin, nullptr);
     int const width = WidestInDisplay() - 2 * margin;
     if (!fonts) return;
-    auto const lines = InLines(fonts, text, width, std::max(most_lines, 1));
+    auto const lines = InLines(fonts, text, width, most_lines);
     if (lines != text) SetResources(label, {{XtNlabel, lines.c_str()}, {XtNresize, true}});
 }
 

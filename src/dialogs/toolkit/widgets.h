@@ -72,7 +72,7 @@ Widget CreateLabel(Widget form, char const* name, WidgetClass kind, char const* 
 // The widest that something in a window can be to be seen whole.
 int WidestInDisplay();
 
-// Makes a label no wider than that: breaks its text into at most so many lines, or, for 0, cuts it off.
+// Makes a label no wider than that: breaks its text into at most so many lines, or, for 0, cuts its own lines off.
 void FitToDisplay(Widget label, int most_lines);
 
 // Gives a button, for good, the width that the widest of its own text and others needs, as far as the display has the

@@ -77,8 +77,8 @@ FixedAscii<48> IANAEncodingName(Local8Bit) {
 
 }  // namespace UnixPlatform
 
-AutoNullTerminated<char> OneLine(AutoNullTerminated<char> const& text) {
-    Stringy line = text.c_str();
+AutoNullTerminated<char> OneLine(char const* text) {
+    Stringy line = text;
     for (char& byte : line)
         if (IsControl(byte)) byte = ' ';
     return {line.data(), line.data() + line.size()};

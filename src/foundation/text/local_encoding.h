@@ -45,8 +45,8 @@ constexpr bool IsControl(char byte) {
 }
 
 // A copy in which every control character of ASCII, line feeds and tabs among them, is a blank: for what has one line to
-// show. `text` is in the local encoding.
-AutoNullTerminated<char> OneLine(AutoNullTerminated<char> const& text);
+// show. `text` is in the local encoding, and not null.
+AutoNullTerminated<char> OneLine(char const* text);
 
 // A zero-terminated copy in the local encoding, for the toolkit. Throws what UnixPlatform::ToLocal8Bit throws.
 template <class E>
