@@ -131,6 +131,16 @@ class DialogsTest : public testing::Test {
         XtVaGetValues(widget, resource, &text, nullptr);
         return text ? text : "";
     }
+    // Types a key down into a window and does not let it go.
+    static void HoldKey(Widget widget, char const* name, unsigned state = 0) {
+        XEvent key{};
+        key.xkey.type = KeyPress;
+        key.xkey.window = XtWindow(widget);
+        key.xkey.state = state;
+        key.xkey.keycode = XKeysymToKeycode(display, XStringToKeysym(name));
+        XSendEvent(display, XtWindow(widget), False, KeyPressMask, &key);
+        Settle();
+    }
     static void PressAt(Widget widget, unsigned button, int x, int y) {
         XEvent press{};
         press.type = ButtonPress;
@@ -196,7 +206,9 @@ TEST_F(DialogsTest, EveryControlIsWholeAndApartAtAnySizeWhateverIsShown) {
             if (count) SelectRow(0);
             EXPECT_EQ(std::pair(WidthOf(shell), HeightOf(shell)), std::pair(width, height));
             EXPECT_LE(HeightOf(ListIn("form.viewport")), 32767);
-            EXPECT_EQ(AreaOf(list).width + 2 * 4, width) << "the list has all of it";
+            for (Widget wide : {list, InDialog("form.actiontitle"), InDialog("form.actiondesc")})
+                EXPECT_EQ(AreaOf(wide).width + 2 * 4, width) << XtName(wide) << " has all of it";
+            EXPECT_GE(WidthOf(ListIn("form.viewport")), WidthOf(list) - 16) << "from edge to edge";
             auto const now = AreaOf(InDialog("form.takeActions"));
             EXPECT_EQ(std::pair(now.x, now.width), std::pair(before.x, before.width));
             ExpectApart(InDialog("form"));
@@ -266,13 +278,7 @@ TEST_F(DialogsTest, ADescriptionThatGoesOnStaysWhereItIsRead) {
 TEST_F(DialogsTest, AKeyOpensNoSearchWindowOverTheDescription) {
     Show();
     Widget const text = InDialog("form.actiondesc");
-    XEvent key{};
-    key.xkey.type = KeyPress;
-    key.xkey.window = XtWindow(text);
-    key.xkey.state = ControlMask;
-    key.xkey.keycode = XKeysymToKeycode(display, XStringToKeysym("s"));
-    XSendEvent(display, XtWindow(text), False, KeyPressMask, &key);
-    Settle();
+    HoldKey(text, "s", ControlMask);
     EXPECT_EQ(XtNameToWidget(text, "search"), nullptr);
 }
 
@@ -383,8 +389,10 @@ TEST_F(DialogsTest, MessagesAreKnownByTheirIDsAndAnUpdateDecidesWhetherTheyEnd) 
     Widget const dismissed = Shells("MessageDialog")[0];
     Press(Find(dismissed, "form.dismiss"));
     EXPECT_THAT(Shells("MessageDialog"), testing::Not(testing::Contains(dismissed)));
+    for (int time = 0; time < 2; ++time) HoldKey(Shells("MessageDialog")[0], "Return");
+    EXPECT_EQ(Shells("MessageDialog").size(), count - 4) << "held down, it dismisses one";
     for (int time = 0; time < 2; ++time) RemoveMessageDialog(100);
-    EXPECT_EQ(Shells("MessageDialog").size(), count - 4);
+    EXPECT_EQ(Shells("MessageDialog").size(), count - 5);
     for (unsigned long long id = 1; id <= count; ++id) RemoveMessageDialog(id);
     EXPECT_TRUE(Shells("MessageDialog").empty() && Commands().empty());
 }
