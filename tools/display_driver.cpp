@@ -240,10 +240,10 @@ void DisplayDriver::RequestClose(Window window) {
 }
 
 // The type is one that no program knows.
-void DisplayDriver::SendOpen() {
+void DisplayDriver::SendOpen(std::string_view data) {
     Window const window = FindHiddenWindow();
     auto message = MessageTo(window, "SCRIPTED_CLIENT", 8);
-    std::string_view("open").copy(message.data.b, sizeof message.data.b);
+    data.copy(message.data.b, sizeof message.data.b);
     SendClientMessage(display_.get(), window, message);
 }
 

@@ -6,6 +6,7 @@
 #include <memory>
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "tools/editres.h"
@@ -89,8 +90,8 @@ class DisplayDriver {
     void KillOwner(Window window);
     // Takes all fonts but those in the directory away from the server, which holds them ready as they are.
     void LeaveFonts(std::filesystem::path const& directory);
-    // Sends what another program does to bring the action requests up.
-    void SendOpen();
+    // Sends what another program does to bring the action requests up, or the same with other data, of 20 bytes at most.
+    void SendOpen(std::string_view data = "open");
 
     // What the screen shows at a place in a window.
     unsigned long PixelIn(Window window, int x, int y);
