@@ -44,12 +44,15 @@ struct CoreTest : testing::Test {
         initialized = true;
         Replies();
     }
-    // One document of what the lines say. Unknown elements count for nothing, nor does the root's name.
-    void Receive(std::string const& lines) {
+    // Queues one document of what the lines say. Unknown elements count for nothing, nor does the root's name.
+    void Post(std::string const& lines) {
         std::istringstream text(lines);
         std::string children = tools::Element("Unknown", "");
         for (std::string line; std::getline(text, line);) children += tools::MessageFor(tools::ParseScenarioLine(line));
         readQ.WriteMessage(UIMessage(UStringRef<UTF8>(tools::Element("AnyRoot", children))));
+    }
+    void Receive(std::string const& lines) {
+        Post(lines);
         ProcessMessagesFromClient();
     }
     void Decide(UICommandType type, unsigned long long id = 0, int minutes = 0, long long deadline_seconds = 0) {
@@ -149,6 +152,19 @@ TEST_F(CoreTest, ASnoozeCountsFromNowOrFromTheDeadlineInSecondsOf32Bits) {
     EXPECT_THAT(Replies(), testing::MatchesRegex("RemindTime .* RemindInterval TimeInterval=PT30M "));
     Decide(UICommandType::Snooze, 0, -15, (7LL << 32) + 4'102'444'800);
     EXPECT_EQ(Replies(), "RemindTime TimeObject=Thu, 31 Dec 2099 23:45:00 +0000 RemindInterval TimeInterval=-PT15M ");
+}
+
+TEST_F(CoreTest, ATickHearsTheClientBeforeTheUserAndTakesNothingInTheSecondOfItsDeadline) {
+    Instant second;
+    do {
+        second = Instant::Now();
+        Reset();
+        Play("+1");
+        QueueCommand(UICommandType::Take, 1, 0, 0);
+        Post("remove action 1\nrequest id=2 force deadline=+0s");
+        ServiceTimerTick();
+    } while (second != Instant::Now());
+    EXPECT_EQ(Replies() + Pending(), "2 ");
 }
 
 TEST_F(CoreTest, TheSweepTakesOverdueForcedActionsOutsideQuietModeOnlyAndEvenWhileTheyAreAskedAbout) {

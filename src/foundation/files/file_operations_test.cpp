@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 #include <sched.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 
@@ -74,6 +75,12 @@ TEST_F(FileOperationsTest, ATreeIsMadeWithWhatItLacksAndReplacesNothing) {
 TEST_F(FileOperationsTest, DeletingEmptiesADirectoryAndNothingElse) {
     CreateDirectoryTree(At("/base/sub/empty"));
     fs::permissions(At("/base/sub/empty").SystemPath(), fs::perms::none);
+    // Deeper than the process may have descriptors.
+    rlimit const descriptors{64, 64};
+    setrlimit(RLIMIT_NOFILE, &descriptors);
+    Stringy deep = "/base";
+    for (int level = 0; level < 1000; ++level) deep += "/d";
+    CreateDirectoryTree(At(deep));
     CreateDirectoryTree(At("/outside"));
     Write("/outside/file", "kept");
     Write("/base/sub/file", "x");
