@@ -4,6 +4,7 @@
 #include <X11/extensions/XTest.h>
 
 #include <algorithm>
+#include <fstream>
 #include <stdexcept>
 #include <vector>
 
@@ -257,7 +258,17 @@ void DisplayDriver::KillOwner(Window window) {
     XSync(display_.get(), False);
 }
 
-void DisplayDriver::LeaveFonts(std::filesystem::path const& directory) {
+void DisplayDriver::LeaveFonts(std::filesystem::path const& directory, std::map<std::string, std::string> fonts) {
+    fonts["cursor"] = "cursor";
+    std::ofstream list(directory / "fonts.dir");
+    list << fonts.size() << "\n";
+    for (auto const& [font, name] : fonts) {
+        std::string const file = font + ".pcf.gz";
+        std::error_code missing;
+        std::filesystem::copy_file("/usr/share/fonts/X11/misc/" + file, directory / file, missing);
+        list << file << " " << name << "\n";
+    }
+    list.close();
     std::string path = directory.string() + ":unscaled";
     char* paths[] = {path.data()};
     XSetFontPath(display_.get(), paths, 1);

@@ -3,6 +3,7 @@
 #include <X11/Xlib.h>
 
 #include <filesystem>
+#include <map>
 #include <memory>
 #include <set>
 #include <string>
@@ -88,8 +89,9 @@ class DisplayDriver {
     // What a misbehaving program can do to another one's window, and to its connection.
     void Destroy(Window window);
     void KillOwner(Window window);
-    // Takes all fonts but those in the directory away from the server, which holds them ready as they are.
-    void LeaveFonts(std::filesystem::path const& directory);
+    // Leaves the server, of all its fonts, the pointers and these of the packages' fonts, each under the name behind it.
+    // One that no package has is listed, but cannot be opened. The directory must stay as long as the server.
+    void LeaveFonts(std::filesystem::path const& directory, std::map<std::string, std::string> fonts);
     // Sends what another program does to bring the action requests up, or the same with other data, of 20 bytes at most.
     void SendOpen(std::string_view data = "open");
 

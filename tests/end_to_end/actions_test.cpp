@@ -2,25 +2,6 @@
 
 class Actions : public ProgramTest {};
 
-TEST_F(Actions, NothingIsTakenOrCancelledWithoutBeingAllowed) {
-    Play(R"(
-        initialize
-        request id=1 title=May cancellable
-        request id=18446744073709551615 title=Must
-        wait window ActionRequestDialog
-        press form.takeActions
-        press form.cancelAction
-        select row 2
-        press form.cancelAction
-        press form.snoozeButton
-        select row 1
-        click form.cancelAction
-        expect ActionTaken ID=1 IsCancel=true
-        click form.takeActions
-        expect ActionTaken ID=18446744073709551615 IsCancel=false
-    )");
-}
-
 // Neither the end of a quiet period nor another program opens the list to decisions while a question stands, whose window
 // leaves the buttons free here. The list itself is brought up to date.
 TEST_F(Actions, WhileAQuestionStandsNothingElseIsDecided) {

@@ -1,5 +1,4 @@
 #include <array>
-#include <fstream>
 
 #include "tests/support/program_test.h"
 
@@ -9,21 +8,6 @@ class Exit : public ProgramTest {
   protected:
     void ShowOne(std::string const& fields = "title=One cancellable") {
         Play("initialize\nrequest id=1 " + fields + "\nwait window ActionRequestDialog");
-    }
-    // Leaves the server the pointers and these of the fonts of its packages, under names of the case's own. A font that no
-    // package has is listed, but cannot be opened.
-    void LeaveFonts(std::vector<std::pair<std::string, std::string>> fonts) {
-        fonts.emplace_back("cursor", "cursor");
-        std::ofstream list(Directory() / "fonts.dir");
-        list << fonts.size() << "\n";
-        for (auto const& [font, name] : fonts) {
-            std::error_code none;
-            std::filesystem::copy_file("/usr/share/fonts/X11/misc/" + font + ".pcf.gz",
-                                       Directory() / (font + ".pcf.gz"), none);
-            list << font << ".pcf.gz " << name << "\n";
-        }
-        list.close();
-        Screen().LeaveFonts(Directory());
     }
     // The report comes twice.
     void ExpectReport(std::string const& fields) {
@@ -61,6 +45,7 @@ TEST_F(Exit, AClientThatOnlyStopsReadingIsNoticedByTheNextAnswer) {
     Play("close reading\ninitialize\nrequest id=1 title=One force deadline=-1h\nexpect exit 0 within 8s");
 }
 
+// In the C locale, nothing but ASCII can be shown.
 TEST_F(Exit, AReportThatNobodyReadsHoldsNothingUp) {
     Play("close reading\ninitialize\nrequest id=1 title=é\nexpect exit 0");
 }
@@ -74,7 +59,7 @@ TEST_F(Exit, AWindowThatAnotherProgramDestroysIs255) {
 
 TEST_F(Exit, AServerWithoutAFontThatFitsIsReported) {
     Start();
-    LeaveFonts({{"5x7-ISO8859-1", "-misc-fixed-medium-r-normal--7-70-75-75-c-50-iso8859-1"}});
+    Screen().LeaveFonts(Directory(), {{"5x7-ISO8859-1", "-misc-fixed-medium-r-normal--7-70-75-75-c-50-iso8859-1"}});
     Play("initialize\nrequest id=1 title=One");
     ExpectReport("\"noFont (XtToolkitError)\" ErrorCode=1");
 }
@@ -85,21 +70,15 @@ class ExitAvoided : public Exit, public ::testing::WithParamInterface<std::pair<
 // Any set that does not name its font begins with one that cannot be opened.
 TEST_P(ExitAvoided, ByTheLowestFontSetWhereTheConfiguredOneDoesNotWork) {
     Start({}, {"-xrm", "*font: -c-*", "-xrm", std::string("XtDefaultFontSet: ") + GetParam().first});
-    LeaveFonts({{"none", "-a-fixed-medium-r-normal--13-120-75-75-c-60-iso8859-1"},
-                {"10x20-ISO8859-1", "-b-fixed-medium-r-normal--13-120-75-75-c-100-iso8859-1"},
-                {"5x7-ISO8859-1", "-b-fixed-medium-r-normal--13-120-75-75-c-60-iso8859-1"},
-                {"6x13-ISO8859-1", "-c-fixed-medium-r-normal--13-120-75-75-c-60-iso8859-1"}});
+    Screen().LeaveFonts(Directory(), {{"none", "-a-fixed-medium-r-normal--13-120-75-75-c-60-iso8859-1"},
+                                      {"10x20-ISO8859-1", "-b-fixed-medium-r-normal--13-120-75-75-c-100-iso8859-1"},
+                                      {"5x7-ISO8859-1", "-b-fixed-medium-r-normal--13-120-75-75-c-60-iso8859-1"},
+                                      {"6x13-ISO8859-1", "-c-fixed-medium-r-normal--13-120-75-75-c-60-iso8859-1"}});
     ShowOne();
     Play(std::string("wait widget form.actionListLabel height=") + GetParam().second);
 }
 
 INSTANTIATE_TEST_SUITE_P(All, ExitAvoided, ::testing::Values(std::pair("-a-*", "11"), std::pair("-c-*", "17")));
-
-// In the C locale, nothing but ASCII can be shown.
-TEST_F(Exit, AnUnshowableFirstTitleIsReported) {
-    Play("initialize\nrequest id=1 title=é");
-    ExpectReport("ActionRequestDialog ErrorCode=2");
-}
 
 // A name, the dialog, the fields of its action and what shows an é there.
 using Unshowable = std::array<char const*, 4>;
