@@ -71,8 +71,8 @@ class ExitAvoided : public Exit, public ::testing::WithParamInterface<std::pair<
 TEST_P(ExitAvoided, ByTheLowestFontSetWhereTheConfiguredOneDoesNotWork) {
     Start({}, {"-xrm", "*font: -c-*", "-xrm", std::string("XtDefaultFontSet: ") + GetParam().first});
     Screen().LeaveFonts(Directory(), {{"none", "-a-fixed-medium-r-normal--13-120-75-75-c-60-iso8859-1"},
-                                      {"10x20-ISO8859-1", "-b-fixed-medium-r-normal--13-120-75-75-c-100-iso8859-1"},
-                                      {"5x7-ISO8859-1", "-b-fixed-medium-r-normal--13-120-75-75-c-60-iso8859-1"},
+                                      {"10x20-ISO8859-1", "-b-fixed-medium-r-normal--13-120-75-75-c-60-iso8859-1"},
+                                      {"5x7-ISO8859-1", "-b-fixed-medium-r-normal--13-120-75-75-c-100-iso8859-1"},
                                       {"6x13-ISO8859-1", "-c-fixed-medium-r-normal--13-120-75-75-c-60-iso8859-1"}});
     ShowOne();
     Play(std::string("wait widget form.actionListLabel height=") + GetParam().second);
