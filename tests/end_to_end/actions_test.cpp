@@ -37,34 +37,3 @@ TEST_F(Actions, WhileAQuestionStandsNothingElseIsDecided) {
         wait sensitive form.viewport.List form.takeAllActions
     )");
 }
-
-// With the first and the third button.
-TEST_F(Actions, TenThousandLinesScroll) {
-    std::string const lines = Repeated("a line...\\n", 110000);
-    Play("initialize\nrequest id=1 title=Long preview=\"" + lines + "\" confirm=\"" + lines + "\"");
-    Play(R"(
-        wait window ActionRequestDialog
-        select row 1
-        click form.actionDetails
-        wait window ActionDetailsDialog
-        wheel form.actiondetails down
-        wait widget form.actiondetails displayPosition=30
-        key Up
-        wait widget form.actiondetails displayPosition=20
-        key End
-        wait widget form.actiondetails displayPosition=999??
-        key Page_Up Home
-        wait widget form.actiondetails displayPosition=0
-        drag form.actiondetails.vScrollbar 0 0.5
-        wait widget form.actiondetails displayPosition=[45]????
-        drag form.actiondetails.vScrollbar 0.5 0.9 button=3
-        wait widget form.actiondetails displayPosition=[89]????
-        click form.ok
-        wait window ActionRequestDialog
-        click form.takeActions
-        wait window ConfirmationDialog
-        drag form.actionconfirmation.vScrollbar 0.5 0.9 button=3
-        wait widget form.actionconfirmation displayPosition=[1-9]????
-        click form.cancel
-    )");
-}
