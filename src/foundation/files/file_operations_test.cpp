@@ -106,6 +106,29 @@ TEST_F(FileOperationsTest, TwoWhoEmptyOneDirectoryAtOnceBothSucceed) {
     EXPECT_TRUE(fs::is_empty(top_ + "/base"));
 }
 
+// Of its names some stand in both, so that some come after the directory, in whichever order they are listed.
+TEST_F(FileOperationsTest, ADirectoryThatIsMovedToAndFroLeadsNowhereElse) {
+    auto const fill = [&](Stringy const& directory) {
+        CreateDirectoryTree(At(directory));
+        for (char name = 'a'; name < 'u'; ++name) Write(directory + "/" + name, "kept");
+    };
+    fill("/outside");
+    for (int round = 0; round < 30; ++round) {
+        fill("/base/moved");
+        fill("/base");
+        std::jthread const mover([&](std::stop_token over) {
+            for (bool there = false; !over.stop_requested() || there; there = !there)
+                rename(At(there ? "/outside/moved" : "/base/moved").SystemPath(),
+                       At(there ? "/base/moved" : "/outside/moved").SystemPath());
+        });
+        try {
+            DeleteContents(At("/base"));
+        } catch (FileIOError const&) {
+        }
+    }
+    EXPECT_EQ(std::distance(fs::directory_iterator(top_ + "/outside"), {}), 20);
+}
+
 enum { Deleted, Refused, NoOtherRoot };  // A process that dies ends with the first, too.
 
 // Empties a directory in a process whose root is the scratch directory, moved there as root or in a user namespace.
