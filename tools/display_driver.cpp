@@ -38,6 +38,12 @@ void DisplayDriver::WaitUntilGone(std::string const& name, Milliseconds limit) {
     throw std::runtime_error("the window " + name + " stays");
 }
 
+size_t DisplayDriver::Count(std::string const& name) {
+    auto const windows = ChildrenOf(display_.get(), root_);
+    auto const named = [&](Window window) { return NameOf(display_.get(), window) == name; };
+    return static_cast<size_t>(std::ranges::count_if(windows, named));
+}
+
 RemoteWidget DisplayDriver::FindWidget(Window shell, std::string const& path) {
     auto const tree = editres_.ReadTree(shell);
     auto const found = tree.find(path);

@@ -35,6 +35,8 @@ class DisplayDriver {
     Window FindWindow(std::string const& name) { return FindTopLevel(display_.get(), name); }
     // The one that the program never shows.
     Window FindHiddenWindow() { return FindWindow("QENClientUIHiddenWindow"); }
+    // How many top-level windows have that name, on the screen or not. A window manager's frames hide theirs.
+    size_t Count(std::string const& name);
     // Waits until it is on the screen and is not `other`, or until it no longer is.
     Window WaitForWindow(std::string const& name, Milliseconds limit, Window other = None);
     void WaitUntilGone(std::string const& name, Milliseconds limit);

@@ -31,6 +31,7 @@ TEST_F(Initialization, EmptiesTheBaseDirectoryAndFillsIt) {
         request id=1 title=Overdue force deadline=-1h
         expect ActionTaken ID=1
     )");
+    EXPECT_EQ(Screen().Count("QENClientUIHiddenWindow"), 1u);
     EXPECT_EQ(FilesIn(BaseDirectory()), (std::set{BaseDirectory() / "_brand.xlat", BaseDirectory() / "page.html"}));
     EXPECT_EQ(tools::ReadFile(BaseDirectory() / "page.html"), "<p>second</p>");
 }

@@ -52,6 +52,11 @@ TEST_F(FileOperationsTest, WhatIsWrittenReplacesWhatWasThereButFollowsNoLink) {
     EXPECT_THROW(Write("/file/x", ""), DirectoryNotFoundError);
     FileWritingPath full(FileLocation("/dev/full"));
     EXPECT_THROW(FileWriter(full).Write("x"), FileIOError);
+    int const next = dup(0);
+    close(next);
+    FileWritingPath lost(At("/lost"));
+    close(next);
+    EXPECT_THROW(lost.Close(), FileIOError);
     Link("/link", "file");
     EXPECT_THROW(Write("/link", "elsewhere"), FileIOError);
     EXPECT_EQ(Read("/file"), "");
