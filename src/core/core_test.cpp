@@ -63,15 +63,12 @@ struct CoreTest : testing::Test {
         initialized = true;
         Replies();
     }
-    // Queues one document of what the lines say. Unknown elements count for nothing, nor does the root's name.
-    void Post(std::string const& lines) {
+    // One document of what the lines say. Unknown elements count for nothing, nor does the root's name.
+    void Receive(std::string const& lines) {
         std::istringstream text(lines);
         std::string children = tools::Element("Unknown", "");
         for (std::string line; std::getline(text, line);) children += tools::MessageFor(tools::ParseScenarioLine(line));
         readQ.WriteMessage(UIMessage(UStringRef<UTF8>(tools::Element("AnyRoot", children))));
-    }
-    void Receive(std::string const& lines) {
-        Post(lines);
         ProcessMessagesFromClient();
     }
     void Decide(UICommandType type, unsigned long long id = 0, int minutes = 0, long long deadline_seconds = 0) {
@@ -197,9 +194,10 @@ TEST_F(CoreTest, ATickHearsTheClientBeforeTheUserAndTakesNothingInTheSecondOfIts
     do {
         second = Instant::Now();
         Reset();
-        Play("+1");
+        Receive("request id=1\nrequest id=2 force deadline=+0s");
         QueueCommand(UICommandType::Take, 1, 0, 0);
-        Post("remove action 1\nrequest id=2 force deadline=+0s");
+        auto const removal = tools::MessageFor(tools::ParseScenarioLine("remove action 1"));
+        readQ.WriteMessage(UIMessage(UStringRef<UTF8>(tools::Document(removal))));
         ServiceTimerTick();
     } while (second != Instant::Now());
     EXPECT_EQ(Replies() + Pending(), "2 ");

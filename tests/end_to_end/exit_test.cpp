@@ -45,11 +45,6 @@ TEST_F(Exit, AClientThatOnlyStopsReadingIsNoticedByTheNextAnswer) {
     Play("close reading\ninitialize\nrequest id=1 title=One force deadline=-1h\nexpect exit 0 within 8s");
 }
 
-// In the C locale, nothing but ASCII can be shown.
-TEST_F(Exit, AReportThatNobodyReadsHoldsNothingUp) {
-    Play("close reading\ninitialize\nrequest id=1 title=é\nexpect exit 0");
-}
-
 TEST_F(Exit, AWindowThatAnotherProgramDestroysIs255) {
     ending_ = "exit 255";
     ShowOne();
@@ -85,7 +80,7 @@ using Unshowable = std::array<char const*, 4>;
 
 class ExitOver : public Exit, public ::testing::WithParamInterface<Unshowable> {};
 
-// A brand's translation counts in the C locale.
+// In the C locale nothing but ASCII can be shown, and a brand's translation counts.
 TEST_P(ExitOver, UnshowableTextIsReportedByTheDialogsName) {
     auto const [name, dialog, fields, lines] = GetParam();
     Play("support-file _brand.xlat \"Not Currently Available\\tIndisponible à présent\"");
