@@ -141,6 +141,16 @@ class DialogsTest : public testing::Test {
         press.xbutton.y = y;
         XtDispatchEvent(&press);
     }
+    static void Key(int type, Widget widget, char const* name, unsigned state = 0, Time time = 0) {
+        XEvent key{};
+        key.type = type;
+        key.xkey.display = display;
+        key.xkey.window = XtWindow(widget);
+        key.xkey.time = time;
+        key.xkey.state = state;
+        key.xkey.keycode = XKeysymToKeycode(display, XStringToKeysym(name));
+        XtDispatchEvent(&key);
+    }
     static void Press(Widget button) {
         XtCallCallbacks(button, XtNcallback, nullptr);
         Settle();
@@ -266,14 +276,21 @@ TEST_F(DialogsTest, ADescriptionThatGoesOnStaysWhereItIsRead) {
 TEST_F(DialogsTest, AKeyOpensNoSearchWindowOverTheDescription) {
     Show();
     Widget const text = InDialog("form.actiondesc");
-    XEvent key{};
-    key.xkey.type = KeyPress;
-    key.xkey.window = XtWindow(text);
-    key.xkey.state = ControlMask;
-    key.xkey.keycode = XKeysymToKeycode(display, XStringToKeysym("s"));
-    XSendEvent(display, XtWindow(text), False, KeyPressMask, &key);
-    Settle();
+    Key(KeyPress, text, "s", ControlMask);
     EXPECT_EQ(XtNameToWidget(text, "search"), nullptr);
+}
+
+TEST_F(DialogsTest, AKeyThatIsHeldDownAnswersOnce) {
+    for (auto [type, time, answers] : {std::tuple(KeyPress, 1000u, 1u),
+                                       {KeyPress, 1900u, 0u},
+                                       {KeyPress, 2899u, 0u},
+                                       {KeyRelease, 2900u, 0u},
+                                       {KeyPress, 2901u, 1u},
+                                       {KeyPress, 3901u, 1u}}) {
+        ShowConfirmationRequestDialog(0);
+        Key(type, Shells("ConfirmationDialog").at(0), "Return", 0, time);
+        EXPECT_EQ(Commands().size(), answers) << time;
+    }
 }
 
 TEST_F(DialogsTest, TheProposedChoiceIsHighlightedAndInView) {
@@ -294,6 +311,15 @@ TEST_F(DialogsTest, TheProposedChoiceIsHighlightedAndInView) {
     EXPECT_EQ(AreaOf(ListIn("form.snoozeViewport")).y, 0) << "three rows up";
     PressAt(ListIn("form.viewport"), Button1, WidthOf(ListIn("form.viewport")) - 5, 5);
     EXPECT_EQ(HighlightedRow(ListIn("form.viewport")), 0) << "a row answers from edge to edge";
+    for (int count : {30, 31}) {
+        Pend(count);
+        Refresh();
+        if (count == 30) PressAt(ListIn("form.viewport"), Button5, 5, 5);
+    }
+    Widget const list = ListIn("form.viewport");
+    EXPECT_LT(AreaOf(list).y, 0) << "another row scrolls nobody back";
+    for (char const* name : {"Home", "Next"}) Key(KeyPress, list, name);
+    EXPECT_EQ(HighlightedRow(list), HeightOf(InDialog("form.viewport")) / (HeightOf(list) / 31) - 1) << "a page";
 }
 
 TEST_F(DialogsTest, AConfirmationIsAnsweredOnceAndIsNeverNarrowerThanItsExplanation) {
