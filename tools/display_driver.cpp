@@ -241,9 +241,14 @@ XClientMessageEvent DisplayDriver::MessageTo(Window window, char const* type, in
 
 void DisplayDriver::RequestClose(Window window) {
     bool const managed = !ReadProperty(root_, "_NET_SUPPORTED").empty();
-    auto message = MessageTo(window, managed ? "_NET_CLOSE_WINDOW" : "WM_PROTOCOLS", 32);
-    if (!managed) message.data.l[0] = static_cast<long>(XInternAtom(display_.get(), "WM_DELETE_WINDOW", False));
-    SendClientMessage(display_.get(), managed ? root_ : window, message);
+    if (!managed) return SendProtocol(window, "WM_DELETE_WINDOW");
+    SendClientMessage(display_.get(), root_, MessageTo(window, "_NET_CLOSE_WINDOW", 32));
+}
+
+void DisplayDriver::SendProtocol(Window window, char const* protocol) {
+    auto message = MessageTo(window, "WM_PROTOCOLS", 32);
+    message.data.l[0] = static_cast<long>(XInternAtom(display_.get(), protocol, False));
+    SendClientMessage(display_.get(), window, message);
 }
 
 // The type is one that no program knows.

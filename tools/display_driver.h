@@ -88,6 +88,8 @@ class DisplayDriver {
 
     // Closes the window as its close button does: through the window manager, or in its stead when none runs.
     void RequestClose(Window window);
+    // Sends the window what a window manager would, as "WM_TAKE_FOCUS".
+    void SendProtocol(Window window, char const* protocol);
     // What a misbehaving program can do to another one's window, and to its connection.
     void Destroy(Window window);
     void KillOwner(Window window);

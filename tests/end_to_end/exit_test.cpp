@@ -38,6 +38,8 @@ TEST_F(Exit, AServerThatDiesIsAnOrdinaryEnd) {
 TEST_F(Exit, TheCloseButtonEndsTheProgramWithoutAnAnswer) {
     Display().StartWindowManager();
     ShowOne();
+    Screen().SendProtocol(Screen().FindWindow("ActionRequestDialog"), "WM_TAKE_FOCUS");
+    Play("request id=2 title=Two force deadline=-1h\nexpect ActionTaken ID=2");
     Play("close window\nwait window ActionRequestDialog gone within 1s\nexpect exit 0");
 }
 
