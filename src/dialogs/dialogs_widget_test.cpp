@@ -141,16 +141,6 @@ class DialogsTest : public testing::Test {
         press.xbutton.y = y;
         XtDispatchEvent(&press);
     }
-    static void Key(int type, Widget widget, char const* name, unsigned state = 0, Time time = 0) {
-        XEvent key{};
-        key.type = type;
-        key.xkey.display = display;
-        key.xkey.window = XtWindow(widget);
-        key.xkey.time = time;
-        key.xkey.state = state;
-        key.xkey.keycode = XKeysymToKeycode(display, XStringToKeysym(name));
-        XtDispatchEvent(&key);
-    }
     static void Press(Widget button) {
         XtCallCallbacks(button, XtNcallback, nullptr);
         Settle();
@@ -273,26 +263,6 @@ TEST_F(DialogsTest, ADescriptionThatGoesOnStaysWhereItIsRead) {
     EXPECT_EQ(top(), 0);
 }
 
-TEST_F(DialogsTest, AKeyOpensNoSearchWindowOverTheDescription) {
-    Show();
-    Widget const text = InDialog("form.actiondesc");
-    Key(KeyPress, text, "s", ControlMask);
-    EXPECT_EQ(XtNameToWidget(text, "search"), nullptr);
-}
-
-TEST_F(DialogsTest, AKeyThatIsHeldDownAnswersOnce) {
-    for (auto [type, time, answers] : {std::tuple(KeyPress, 1000u, 1u),
-                                       {KeyPress, 1900u, 0u},
-                                       {KeyPress, 2899u, 0u},
-                                       {KeyRelease, 2900u, 0u},
-                                       {KeyPress, 2901u, 1u},
-                                       {KeyPress, 3901u, 1u}}) {
-        ShowConfirmationRequestDialog(0);
-        Key(type, Shells("ConfirmationDialog").at(0), "Return", 0, time);
-        EXPECT_EQ(Commands().size(), answers) << time;
-    }
-}
-
 TEST_F(DialogsTest, TheProposedChoiceIsHighlightedAndInView) {
     Pend(1);
     Show();
@@ -318,8 +288,6 @@ TEST_F(DialogsTest, TheProposedChoiceIsHighlightedAndInView) {
     }
     Widget const list = ListIn("form.viewport");
     EXPECT_LT(AreaOf(list).y, 0) << "another row scrolls nobody back";
-    for (char const* name : {"Home", "Next"}) Key(KeyPress, list, name);
-    EXPECT_EQ(HighlightedRow(list), HeightOf(InDialog("form.viewport")) / (HeightOf(list) / 31) - 1) << "a page";
 }
 
 TEST_F(DialogsTest, AConfirmationIsAnsweredOnceAndIsNeverNarrowerThanItsExplanation) {
