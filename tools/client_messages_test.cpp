@@ -33,10 +33,4 @@ TEST(Scenarios, FailWhereSomethingElseComes) {
     EXPECT_THROW(play(elements, "expect A"), std::runtime_error);
 }
 
-TEST(Answers, AreReadWithTheirFields) {
-    char const* document =
-        "<UIToClient>\n\t<Error>\n\t\t<Text><![CDATA[a<b&amp;]]> c</Text><Code/>\n\t</Error></UIToClient>";
-    EXPECT_EQ(ReadAnswer(document).Text(), "Error Code= Text=a<b&amp; c");
-}
-
 }  // namespace tools

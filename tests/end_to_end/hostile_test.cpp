@@ -67,21 +67,3 @@ TEST_F(Hostile, LongAndStrangeTextsAreShownAndTaken) {
         )");
     }
 }
-
-TEST_F(Hostile, TimesAtTheEndsOfTheirRangeNeverWrap) {
-    Play(R"(
-        initialize snooze remind=P106751991DT4H54S
-        message id=1 title=Goes text=a timeout=-P106751991DT4H54S
-        message id=2 title=Stays text=a timeout=P106751991DT4H54S
-        wait window Stays
-        click form.dismiss
-        request id=1 title=Late force deadline="Fri, 31 Dec 292277 23:59:59 +0000"
-        request id=2 title=Early force deadline="Mon, 01 Jan 0001 00:00:00 +0000"
-        expect ActionTaken ID=2
-        wait window ActionRequestDialog
-        click form.snoozeButton
-        expect RemindTime TimeObject=+5d
-        expect RemindInterval TimeInterval=P5D
-    )");
-    EXPECT_EQ(Screen().FindWindow("Goes"), Window(None));
-}
