@@ -25,7 +25,7 @@ TEST(Scenarios, FailWhereSomethingElseComes) {
         options.launch = {.program = "cat", .arguments = {file}};
         ScenarioPlayer(options).Play(line);
     };
-    auto const elements = "<U><A><T>" + TimeText(std::chrono::system_clock::now()) + "</T></A></U>";
+    auto const elements = "<U><A><T><![CDATA[" + TimeText(std::chrono::system_clock::now()) + "]]></T></A></U>";
     auto const answer = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" + elements;
     for (auto right : {"expect A", "expect A T=+0s", "expect A T=*+0000", "expect exit 0"}) play(answer, right);
     for (auto wrong : {"expect T", "expect A U=1", "expect A T=*1", "expect A T=+1m", "expect exit 1"})
