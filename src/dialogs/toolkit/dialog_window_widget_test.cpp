@@ -21,7 +21,7 @@ struct DialogWindowTest : testing::Test {
     DialogWindowTest() {
         OpenDialogDisplay();
         window.Open("Title");
-        text = window.AddText("text", "a");
+        text = window.AddText("text", "a", {.sensitive = true});
         list.Create(window, "viewport", 100, 100, text, Anchor::AllSides, [](int) {});
         window.SetFirstFocus(list.List());
         window.SetEscape(window.AddButton("button", "OK", [this] { ++presses; }, {.below = list.Viewport()}));
@@ -32,12 +32,13 @@ struct DialogWindowTest : testing::Test {
     void Key(int type, char const* name, unsigned state = 0, Time time = 0) {
         XEvent key{};
         key.type = type;
-        key.xkey.display = display;
         key.xkey.window = XtWindow(text);
         key.xkey.time = time;
         key.xkey.state = state;
         key.xkey.keycode = XKeysymToKeycode(display, XStringToKeysym(name));
-        XtDispatchEvent(&key);
+        XSendEvent(display, key.xkey.window, False, KeyPressMask | KeyReleaseMask, &key);
+        XSync(display, False);
+        while (XtAppPending(app_context) & XtIMXEvent) XtAppProcessEvent(app_context, XtIMXEvent);
     }
 
     DialogWindow window{"Test"};
