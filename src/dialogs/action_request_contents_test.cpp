@@ -47,6 +47,7 @@ TEST(SnoozeChoicesTest, TheProposedRowIsTheClosest) {
         EXPECT_EQ(DefaultSnoozeRow(without, TimeInterval::Seconds(seconds)), row) << seconds;
     EXPECT_EQ(DefaultSnoozeRow(with, TimeInterval::Minutes(-5)), 1);
     EXPECT_EQ(DefaultSnoozeRow(with, TimeInterval(INT64_MIN)), 0);
+    EXPECT_EQ(DefaultSnoozeRow(with, TimeInterval(INT64_MAX)), 18);
 }
 
 }  // namespace
