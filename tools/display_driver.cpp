@@ -4,6 +4,7 @@
 #include <X11/extensions/XTest.h>
 
 #include <algorithm>
+#include <fstream>
 #include <stdexcept>
 #include <vector>
 
@@ -47,6 +48,12 @@ Window DisplayDriver::WaitForWindow(std::string const& name, Milliseconds limit,
 void DisplayDriver::WaitUntilGone(std::string const& name, Milliseconds limit) {
     if (WaitUntil(limit, [&] { return !IsOnScreen(display_.get(), FindWindow(name)); })) return;
     throw std::runtime_error("the window " + name + " stays");
+}
+
+size_t DisplayDriver::Count(std::string const& name) {
+    auto const windows = ChildrenOf(display_.get(), root_);
+    auto const named = [&](Window window) { return NameOf(display_.get(), window) == name; };
+    return static_cast<size_t>(std::ranges::count_if(windows, named));
 }
 
 RemoteWidget DisplayDriver::FindWidget(Window shell, std::string const& path) {
@@ -256,16 +263,21 @@ XClientMessageEvent DisplayDriver::MessageTo(Window window, char const* type, in
 
 void DisplayDriver::RequestClose(Window window) {
     bool const managed = !ReadProperty(root_, "_NET_SUPPORTED").empty();
-    auto message = MessageTo(window, managed ? "_NET_CLOSE_WINDOW" : "WM_PROTOCOLS", 32);
-    if (!managed) message.data.l[0] = static_cast<long>(XInternAtom(display_.get(), "WM_DELETE_WINDOW", False));
-    SendClientMessage(display_.get(), managed ? root_ : window, message);
+    if (!managed) return SendProtocol(window, "WM_DELETE_WINDOW");
+    SendClientMessage(display_.get(), root_, MessageTo(window, "_NET_CLOSE_WINDOW", 32));
+}
+
+void DisplayDriver::SendProtocol(Window window, char const* protocol) {
+    auto message = MessageTo(window, "WM_PROTOCOLS", 32);
+    message.data.l[0] = static_cast<long>(XInternAtom(display_.get(), protocol, False));
+    SendClientMessage(display_.get(), window, message);
 }
 
 // The type is one that no program knows.
-void DisplayDriver::SendOpen() {
+void DisplayDriver::SendOpen(std::string_view data) {
     Window const window = FindHiddenWindow();
     auto message = MessageTo(window, "SCRIPTED_CLIENT", 8);
-    std::string_view("open").copy(message.data.b, sizeof message.data.b);
+    data.copy(message.data.b, sizeof message.data.b);
     SendClientMessage(display_.get(), window, message);
 }
 
@@ -279,7 +291,17 @@ void DisplayDriver::KillOwner(Window window) {
     XSync(display_.get(), False);
 }
 
-void DisplayDriver::LeaveFonts(std::filesystem::path const& directory) {
+void DisplayDriver::LeaveFonts(std::filesystem::path const& directory, std::map<std::string, std::string> fonts) {
+    fonts["cursor"] = "cursor";
+    std::ofstream list(directory / "fonts.dir");
+    list << fonts.size() << "\n";
+    for (auto const& [font, name] : fonts) {
+        std::string const file = font + ".pcf.gz";
+        std::error_code missing;
+        std::filesystem::copy_file("/usr/share/fonts/X11/misc/" + file, directory / file, missing);
+        list << file << " " << name << "\n";
+    }
+    list.close();
     std::string path = directory.string() + ":unscaled";
     char* paths[] = {path.data()};
     XSetFontPath(display_.get(), paths, 1);

@@ -3,9 +3,11 @@
 #include <X11/Xlib.h>
 
 #include <filesystem>
+#include <map>
 #include <memory>
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "tools/editres.h"
@@ -33,6 +35,8 @@ class DisplayDriver {
     Window FindWindow(std::string const& name) { return FindTopLevel(display_.get(), name); }
     // The one that the program never shows.
     Window FindHiddenWindow() { return FindWindow("QENClientUIHiddenWindow"); }
+    // How many top-level windows have that name, on the screen or not. A window manager's frames hide theirs.
+    size_t Count(std::string const& name);
     // Waits until it is on the screen and is not `other`, or until it no longer is.
     Window WaitForWindow(std::string const& name, Milliseconds limit, Window other = None);
     void WaitUntilGone(std::string const& name, Milliseconds limit);
@@ -87,13 +91,16 @@ class DisplayDriver {
 
     // Closes the window as its close button does: through the window manager, or in its stead when none runs.
     void RequestClose(Window window);
+    // Sends the window what a window manager would, as "WM_TAKE_FOCUS".
+    void SendProtocol(Window window, char const* protocol);
     // What a misbehaving program can do to another one's window, and to its connection.
     void Destroy(Window window);
     void KillOwner(Window window);
-    // Takes all fonts but those in the directory away from the server, which holds them ready as they are.
-    void LeaveFonts(std::filesystem::path const& directory);
-    // Sends what another program does to bring the action requests up.
-    void SendOpen();
+    // Leaves the server, of all its fonts, the pointers and these of the packages' fonts, each under the name behind it.
+    // One that no package has is listed, but cannot be opened. The directory must stay as long as the server.
+    void LeaveFonts(std::filesystem::path const& directory, std::map<std::string, std::string> fonts);
+    // Sends what another program does to bring the action requests up, or the same with other data, of 20 bytes at most.
+    void SendOpen(std::string_view data = "open");
 
     // What the screen shows at a place in a window.
     unsigned long PixelIn(Window window, int x, int y);

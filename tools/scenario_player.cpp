@@ -234,10 +234,10 @@ void ScenarioPlayer::Screenshot(ScenarioLine const& line) {
     Log("screenshot: " + file.string(), "");
 }
 
-void ScenarioPlayer::Open(ScenarioLine const&) {
+void ScenarioPlayer::Open(ScenarioLine const& line) {
     if (!WaitUntil(limit_, [this] { return Screen().FindHiddenWindow() != None; }))
         throw std::runtime_error("no hidden window");
-    Screen().SendOpen();
+    Screen().SendOpen(line.words.size() > 1 ? line.Word(1) : "open");
 }
 
 void ScenarioPlayer::Close(ScenarioLine const& line) {

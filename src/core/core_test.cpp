@@ -2,14 +2,33 @@
 #include <gtest/gtest.h>
 
 #include <cctype>
+#include <cstdlib>
 #include <map>
+#include <new>
 #include <sstream>
 #include <string>
+#include <utility>
 
+#include "channel/unix_pipe.h"
 #include "core/core_test_support.h"
+#include "core/process/client_writer.h"
 #include "core/process/ui_command.h"
 #include "core/tick.h"
 #include "core/ui_commands.h"
+
+static bool out_of_memory = false;
+
+// Fails once when it is told to.
+[[gnu::noinline]] void* operator new(std::size_t size) {
+    if (std::exchange(out_of_memory, false)) throw std::bad_alloc();
+    return std::malloc(size);
+}
+[[gnu::noinline]] void operator delete(void* block) noexcept {
+    std::free(block);
+}
+[[gnu::noinline]] void operator delete(void* block, std::size_t) noexcept {
+    std::free(block);
+}
 
 // Dispatch, commands and the tick's sweep, without a display: every dialog function then does nothing.
 
@@ -126,6 +145,39 @@ TEST_F(CoreTest, ASnoozeCountsFromNowOrFromTheDeadlineInSecondsOf32Bits) {
     EXPECT_THAT(Replies(), testing::MatchesRegex("RemindTime .* RemindInterval TimeInterval=PT30M "));
     Decide(UICommandType::Snooze, 0, -15, (7LL << 32) + 4'102'444'800);
     EXPECT_EQ(Replies(), "RemindTime TimeObject=Thu, 31 Dec 2099 23:45:00 +0000 RemindInterval TimeInterval=-PT15M ");
+}
+
+TEST_F(CoreTest, AReportToAClientThatIsGoneIsNotWaitedFor) {
+    UnixPipeRef const gone(client_pipe = new UnixPipe(readQ, writeQ));
+    client_pipe->Kill();
+    auto const begin = TimeMark::Now();
+    ClientUIErrorMessage error(ClientUIErrorMessage::ErrorCode::DialogNotShown, "Dialog");
+    SendErrorToClient(error);
+    EXPECT_LT(TimeMark::Now() - begin, TimeInterval::Seconds(60));
+    client_pipe = nullptr;
+}
+
+// The answer to the first is what there is no memory for.
+TEST_F(CoreTest, ADecisionThatFailsCostsNoOther) {
+    Play("+1 +2");
+    for (unsigned long long id : {1, 2}) QueueCommand(UICommandType::Take, id, 0, 0);
+    out_of_memory = true;
+    ProcessMessagesFromUI();
+    EXPECT_EQ(Replies() + Pending(), "taken2 1 ");
+}
+
+TEST_F(CoreTest, ATickHearsTheClientBeforeTheUserAndTakesNothingInTheSecondOfItsDeadline) {
+    Instant second;
+    do {
+        second = Instant::Now();
+        Reset();
+        Receive("request id=1\nrequest id=2 force deadline=+0s");
+        QueueCommand(UICommandType::Take, 1, 0, 0);
+        auto const removal = tools::MessageFor(tools::ParseScenarioLine("remove action 1"));
+        readQ.WriteMessage(UIMessage(UStringRef<UTF8>(tools::Document(removal))));
+        ServiceTimerTick();
+    } while (second != Instant::Now());
+    EXPECT_EQ(Replies() + Pending(), "2 ");
 }
 
 TEST_F(CoreTest, TheSweepTakesOverdueForcedActionsOutsideQuietModeOnlyAndEvenWhileTheyAreAskedAbout) {

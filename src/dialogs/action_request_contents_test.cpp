@@ -6,19 +6,21 @@
 
 namespace {
 
-// Of two actions, the second of which is due.
-ActionRequestContents Contents(long long secondsFromNow, bool forced) {
+// Of two actions, the second of which is due; all within one second.
+ActionRequestContents Contents(long long seconds_from_now, bool forced) {
     ActionRequest action;
-    action.deadline = TimeObject(Instant::Now() + TimeInterval::Seconds(secondsFromNow), TimeZone());
+    Instant const now = Instant::Now();
+    action.deadline = TimeObject(now + TimeInterval::Seconds(seconds_from_now), TimeZone());
     action.force_run = forced;
     PendingActions list;
     list.Append({});
     list.Append(action);
-    return MakeActionRequestContents(list, nullptr, true);
+    auto contents = MakeActionRequestContents(list, nullptr, true);
+    return now == Instant::Now() ? std::move(contents) : Contents(seconds_from_now, forced);
 }
 
 TEST(ActionRequestContentsTest, ANearOrPastDeadlineForbidsSnoozing) {
-    for (auto [seconds, allowed] : {std::pair(360, true), {290, false}, {-5, false}}) {
+    for (auto [seconds, allowed] : {std::pair(300, true), {299, false}, {-5, false}}) {
         auto const contents = Contents(seconds, false);
         EXPECT_EQ(contents.snooze_list, allowed) << seconds;
         EXPECT_EQ(contents.snooze_button, allowed) << seconds;
@@ -28,6 +30,8 @@ TEST(ActionRequestContentsTest, ANearOrPastDeadlineForbidsSnoozing) {
 TEST(ActionRequestContentsTest, AForcedDeadlineStandsStillAtFiveMinutesWithoutASelection) {
     EXPECT_STREQ(Contents(90, true).description.c_str(),
                  "At least one of these actions will run automatically in 5 minutes, 0 seconds.");
+    EXPECT_STREQ(Contents(300, false).description.c_str(), "There is at least one action you must take within Now.");
+    EXPECT_STREQ(Contents(299, false).description.c_str(), "There is at least one action you must take now.");
 }
 
 TEST(ActionRequestContentsTest, ASelectedActionThatIsGoneThrows) {
@@ -43,6 +47,7 @@ TEST(SnoozeChoicesTest, TheProposedRowIsTheClosest) {
         EXPECT_EQ(DefaultSnoozeRow(without, TimeInterval::Seconds(seconds)), row) << seconds;
     EXPECT_EQ(DefaultSnoozeRow(with, TimeInterval::Minutes(-5)), 1);
     EXPECT_EQ(DefaultSnoozeRow(with, TimeInterval(INT64_MIN)), 0);
+    EXPECT_EQ(DefaultSnoozeRow(with, TimeInterval(INT64_MAX)), 18);
 }
 
 }  // namespace

@@ -21,6 +21,7 @@ TEST(SimpleXML, BuildsTheTreeOfWhateverItIsGiven) {
     std::pair<char const*, char const*> const cases[] = {
         {"<?xml version='1.0'?>\n<a>\n <b>x</b>\n</a>\n", "<a>\n \n<b>x</b></a>"},
         {"<a z='1' kk='4' k='2' z='3' \xC3='5'>", "<a k=\"2\" kk=\"4\" z=\"1\" \xC3=\"5\"></a>"},
+        {"<a b='1' b='2'>", "<a b=\"1\"></a>"},
         {"<a>one</a><b>two</b>", "<b>two</b>"},
         {"</x></x><a><b></z>t</a><c>", "<c></c>"},
         {"<a>1&lt;2<b>x</b>&amp;<![CDATA[<c>]]><d></a>", "<a>1&lt;2&amp;&lt;c&gt;<b>x</b><d></d></a>"},

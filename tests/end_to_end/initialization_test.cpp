@@ -22,15 +22,17 @@ TEST_F(Initialization, EmptiesTheBaseDirectoryAndFillsIt) {
         support-file page.html "<p>first</p>"
         support-file page.html "<p>second</p>"
         support-file _brand.xlat "Action Requests\tFirst"
-        support-file _brand.xlat "Action Requests\tSecond"
+        support-file _brand.xlat "Action Requests\tSecond{_tab}one\nTitle\tTi{_lf}tle"
         initialize
         open
-        wait window Second
+        wait window "Second one"
+        wait widget form.actionListLabel label="Ti\ntle  --  Deadline"
         support-file late.txt ""
         initialize
         request id=1 title=Overdue force deadline=-1h
         expect ActionTaken ID=1
     )");
+    EXPECT_EQ(Screen().Count("QENClientUIHiddenWindow"), 1u);
     EXPECT_EQ(FilesIn(BaseDirectory()), (std::set{BaseDirectory() / "_brand.xlat", BaseDirectory() / "page.html"}));
     EXPECT_EQ(tools::ReadFile(BaseDirectory() / "page.html"), "<p>second</p>");
 }

@@ -20,3 +20,11 @@ TEST_P(Scenario, GoesAsItIsTold) {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, Scenario, ::testing::ValuesIn(Scenario::All()), Scenario::Name);
+
+class Waiting : public ProgramTest {};
+
+TEST_F(Waiting, FailsWhereItIsInVain) {
+    Play("initialize\nrequest id=1 title=One\nwait window ActionRequestDialog");
+    for (std::string vain : {"window ActionRequestDialog gone", "window MessageDialog", "property WM_HINTS=0"})
+        EXPECT_THROW(Play("wait " + vain + " within 1s"), std::runtime_error) << vain;
+}

@@ -4,8 +4,7 @@ void ProgramTest::Prepare(Environment const& changes, std::vector<std::string> c
     Environment environment = changes;
     environment.insert({{"DISPLAY", display_.Name()}, {"LC_ALL", "C"}, {"LANGUAGE", std::nullopt}});
     tools::PlayerOptions options;
-    options.launch = {
-        .program = PROGRAM_UNDER_TEST, .arguments = arguments, .environment = environment, .fixed_addresses = true};
+    options.launch = {.program = program_, .arguments = arguments, .environment = environment, .fixed_addresses = true};
     options.directory = SCENARIOS;
     options.output = Directory();
 #ifdef __SANITIZE_ADDRESS__

@@ -56,6 +56,8 @@ class ProgramTest : public ::testing::Test {
     // All that lies in a directory.
     static std::set<std::filesystem::path> FilesIn(std::filesystem::path const& directory);
 
+    // What is started: the program, or what becomes it.
+    std::string program_ = PROGRAM_UNDER_TEST;
     std::string ending_ = "exit 0";
 
   private:

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 #include <sched.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 
@@ -51,6 +52,11 @@ TEST_F(FileOperationsTest, WhatIsWrittenReplacesWhatWasThereButFollowsNoLink) {
     EXPECT_THROW(Write("/file/x", ""), DirectoryNotFoundError);
     FileWritingPath full(FileLocation("/dev/full"));
     EXPECT_THROW(FileWriter(full).Write("x"), FileIOError);
+    int const next = dup(0);
+    close(next);
+    FileWritingPath lost(At("/lost"));
+    close(next);
+    EXPECT_THROW(lost.Close(), FileIOError);
     Link("/link", "file");
     EXPECT_THROW(Write("/link", "elsewhere"), FileIOError);
     EXPECT_EQ(Read("/file"), "");
@@ -74,6 +80,12 @@ TEST_F(FileOperationsTest, ATreeIsMadeWithWhatItLacksAndReplacesNothing) {
 TEST_F(FileOperationsTest, DeletingEmptiesADirectoryAndNothingElse) {
     CreateDirectoryTree(At("/base/sub/empty"));
     fs::permissions(At("/base/sub/empty").SystemPath(), fs::perms::none);
+    // Deeper than the process may have descriptors.
+    rlimit const descriptors{64, 64};
+    setrlimit(RLIMIT_NOFILE, &descriptors);
+    Stringy deep = "/base";
+    for (int level = 0; level < 1000; ++level) deep += "/d";
+    CreateDirectoryTree(At(deep));
     CreateDirectoryTree(At("/outside"));
     Write("/outside/file", "kept");
     Write("/base/sub/file", "x");
@@ -97,6 +109,29 @@ TEST_F(FileOperationsTest, TwoWhoEmptyOneDirectoryAtOnceBothSucceed) {
     auto empty = [&] { EXPECT_NO_THROW(DeleteContents(At("/base"))); };
     { std::jthread one(empty), other(empty); }
     EXPECT_TRUE(fs::is_empty(top_ + "/base"));
+}
+
+// Of its names some stand in both, so that some come after the directory, in whichever order they are listed.
+TEST_F(FileOperationsTest, ADirectoryThatIsMovedToAndFroLeadsNowhereElse) {
+    auto const fill = [&](Stringy const& directory) {
+        CreateDirectoryTree(At(directory));
+        for (char name = 'a'; name < 'u'; ++name) Write(directory + "/" + name, "kept");
+    };
+    fill("/outside");
+    for (int round = 0; round < 30; ++round) {
+        fill("/base/moved");
+        fill("/base");
+        std::jthread const mover([&](std::stop_token over) {
+            for (bool there = false; !over.stop_requested() || there; there = !there)
+                rename(At(there ? "/outside/moved" : "/base/moved").SystemPath(),
+                       At(there ? "/base/moved" : "/outside/moved").SystemPath());
+        });
+        try {
+            DeleteContents(At("/base"));
+        } catch (FileIOError const&) {
+        }
+    }
+    EXPECT_EQ(std::distance(fs::directory_iterator(top_ + "/outside"), {}), 20);
 }
 
 enum { Deleted, Refused, NoOtherRoot };  // A process that dies ends with the first, too.

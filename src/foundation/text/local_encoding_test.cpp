@@ -22,6 +22,7 @@ TEST_F(LocalEncoding, UTF8LocalesCarryEveryCharacterUpToTheFirstZero) {
     EXPECT_EQ(ToUTF8(local).AsStringView(), mixed.AsStringView());
     for (auto text : {"ab\0cd"sv, "ab\xC0\x80"sv}) EXPECT_STREQ(MakeLocalString(UStringRef<UTF8>(text)).c_str(), "ab");
     EXPECT_EQ(ToUTF8(UStringRef<Local8Bit>("ab\0cd"sv)).AsStringView(), "ab");
+    EXPECT_STREQ(OneLine("a\x1F b\x7F\xC2\x80").c_str(), "a  b \xC2\x80");
     EXPECT_THROW(ToUTF8(UStringRef<Local8Bit>("\xFF")), MultiByteToWideConvertError);
     EXPECT_THROW(MakeLocalString<UTF8>("\xE2\x82"), InvalidTextEncoding);
     EXPECT_THROW(MakeLocalString<UTF8>("\xED\xA0\x80"), WideToMultiByteConvertError);

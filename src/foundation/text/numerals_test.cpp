@@ -41,7 +41,12 @@ TEST(Numerals, WritersPadWithZerosUpToTheirCapacity) {
     EXPECT_EQ(MakeAsciiSignedDecimalNumeral(-5, 20).AsStringView(), "-00000000000000000005");
     EXPECT_THROW(MakeAsciiDecimalNumeral(1, 21), ConstDataCapacityExceeded);
     EXPECT_EQ(MakeAsciiHexNumeral64(0xABC, 4).AsStringView(), "0abc");
-    EXPECT_EQ(static_cast<ConstData>(Numeral(kLeast, 36)).AsStringView(), "-1y2p0ij32e8e8");
+    for (unsigned base : {1u, 37u}) EXPECT_THROW(Numeral(1, base), IllegalNumeralBase);
+    Numeral numeral(kLeast, 36);
+    EXPECT_EQ(static_cast<ConstData>(numeral).AsStringView(), "-1y2p0ij32e8e8");
+    EXPECT_THROW(numeral.PadTo(65), ConstDataCapacityExceeded);
+    numeral.PadTo(64);
+    EXPECT_EQ(static_cast<ConstData>(numeral).AsStringView(), "-" + Stringy(51, '0') + "1y2p0ij32e8e8");
 }
 
 TEST(Ascii, ClassesEndWhereAsciiSaysAndCaseIsAsciiOnly) {

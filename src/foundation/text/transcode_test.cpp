@@ -11,16 +11,19 @@ namespace {
 template <class E>
 using Units = std::vector<typename E::Unit>;
 
-// The text converted in two pieces; null when it is refused.
+// The text converted in two pieces, after its first piece was begun with and left; null when it is refused.
 template <class To, class From>
 std::optional<Units<To>> ConvertSplit(Units<From> const& text, std::size_t split) try {
     UStringBuilder<To> converted;
     typename TranscoderFor<To, From>::Type transcoder(converted);
     transcoder.Start(From());
     transcoder.Receive({text.data(), split});
+    auto const left = static_cast<std::ptrdiff_t>(converted.Ref().size());
+    transcoder.Start(From());
+    transcoder.Receive({text.data(), split});
     transcoder.Receive({text.data() + split, text.size() - split});
     transcoder.ReceiveEnd();
-    return Units<To>(converted.Ref().begin(), converted.Ref().end());
+    return Units<To>(converted.Ref().begin() + left, converted.Ref().end());
 } catch (InvalidTextEncoding const&) {
     return {};
 }

@@ -57,6 +57,9 @@ TEST(TimeObject, CountsAcrossDaysAndZones) {
     EXPECT_EQ(Written(moved), "Thu, 29 Feb 2024 06:30:00 +0530");
     EXPECT_TRUE(moved == evening && evening < moved + 1);
     EXPECT_EQ(moved + 10 - evening, 10);
+    TimeOfDay time{0, 0, 5};
+    EXPECT_EQ((time -= 86'410), (TimeOfDay{23, 59, 55}));
+    EXPECT_EQ((time += 86'400 + 3'610), (TimeOfDay{1, 0, 5}));
 }
 
 TEST(TimeObject, StopsAtTheEndsOfTheCalendarAndOfTheInstants) {
