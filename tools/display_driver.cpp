@@ -99,13 +99,15 @@ void DisplayDriver::WaitUntilDrawn(Window shell) {
     editres_.ReadTree(shell);
 }
 
+bool DisplayDriver::Point(Window window, int x, int y) {
+    XTestFakeMotionEvent(display_.get(), DefaultScreen(display_.get()), x, y, CurrentTime);
+    return WindowUnderPointer(display_.get()) == window;
+}
+
 // Moves the pointer there once the window really is there: it may just be being moved, or still be covered.
 void DisplayDriver::PointAt(Window window, int x, int y) {
-    auto arrived = [&] {
-        XTestFakeMotionEvent(display_.get(), DefaultScreen(display_.get()), x, y, CurrentTime);
-        return WindowUnderPointer(display_.get()) == window;
-    };
-    if (!WaitUntil(kPatience, arrived)) throw std::runtime_error("the widget is not under the pointer");
+    if (!WaitUntil(kPatience, [&] { return Point(window, x, y); }))
+        throw std::runtime_error("the widget is not under the pointer");
 }
 
 void DisplayDriver::Button(unsigned button, bool down) {
@@ -162,7 +164,9 @@ std::vector<TextLine> DisplayDriver::LinesOf(Window shell, Window list, size_t l
 void DisplayDriver::SelectLine(Window shell, std::string const& path, size_t line) {
     Window list = WindowOf(shell, path);
     auto selected = [&] {
-        PressOn(list, LinesOf(shell, list, line)[line - 1].area);
+        Area const place = LinesOf(shell, list, line)[line - 1].area;
+        if (!Point(list, place.MiddleX(), place.MiddleY())) return false;
+        PressAt(place.MiddleX(), place.MiddleY());
         return LinesOf(shell, list, line)[line - 1].IsHighlighted();
     };
     if (!WaitUntil(kPatience, selected)) throw std::runtime_error(path + " does not let its lines be selected");

@@ -116,6 +116,8 @@ class DisplayDriver {
     RemoteWidget FindWidget(Window shell, std::string const& path);
     std::vector<TextLine> LinesOf(Window shell, Window list, size_t least);
     bool AnswersPointer(Window shell, Window button);
+    // Whether the window is what is under the pointer there.
+    bool Point(Window window, int x, int y);
     void PointAt(Window window, int x, int y);
     void PressOn(Window window, Area const& place);
     void Button(unsigned button, bool down);

@@ -16,7 +16,7 @@
 namespace {
 
 using enum UICommandType;
-std::size_t const most = std::getenv("CONSENT_DEPTH") ? std::stoul(std::getenv("CONSENT_DEPTH")) : 2;
+std::size_t const kMost = std::getenv("CONSENT_DEPTH") ? std::stoul(std::getenv("CONSENT_DEPTH")) : 2;
 
 struct State {
     bool enabled = false, question = false, notice = false, shown = false, said = false;
@@ -32,15 +32,15 @@ struct Button {
     bool State::*there;
     UICommandType queues;
     unsigned long long id = 0;
-} const buttons[] = {{"take 1", &State::enabled, Take, 1},
-                     {"take 2", &State::enabled, Take, 2},
-                     {"cancel 1", &State::enabled, Cancel, 1},
-                     {"cancel 2", &State::enabled, Cancel, 2},
-                     {"take all", &State::enabled, TakeAll},
-                     {"snooze", &State::enabled, Snooze},
-                     {"accept", &State::question, ConfirmationAccepted},
-                     {"decline", &State::question, ConfirmationDeclined},
-                     {"close notice", &State::notice, QuietNoticeClosed}};
+} const kButtons[] = {{"take 1", &State::enabled, Take, 1},
+                      {"take 2", &State::enabled, Take, 2},
+                      {"cancel 1", &State::enabled, Cancel, 1},
+                      {"cancel 2", &State::enabled, Cancel, 2},
+                      {"take all", &State::enabled, TakeAll},
+                      {"snooze", &State::enabled, Snooze},
+                      {"accept", &State::question, ConfirmationAccepted},
+                      {"decline", &State::question, ConfirmationDeclined},
+                      {"close notice", &State::notice, QuietNoticeClosed}};
 
 std::string Key() {
     std::string key = std::to_string(now.accepted) + (m_askedAbout ? Short(*m_askedAbout) : "");
@@ -53,7 +53,7 @@ std::string Key() {
 }
 
 bool Press(Button const& button) {
-    if (now.said || now.presses.size() == most || (button.id && !actions.FindAction(button.id))) return false;
+    if (now.said || now.presses.size() == kMost || (button.id && !actions.FindAction(button.id))) return false;
     bool const accepts = button.queues == ConfirmationAccepted;
     if (button.queues == Snooze) now.shown = false;
     if (button.there != &State::notice) now.agreed.insert(accepts ? "take " + now.asks : button.name);
@@ -64,7 +64,7 @@ bool Press(Button const& button) {
 }
 
 bool Say(std::string const& line) {
-    if (actions.size() == most && line.starts_with("request")) return false;
+    if (actions.size() == kMost && line.starts_with("request")) return false;
     Receive(line);
     now.accepted = 0;
     return now.said = true;
@@ -99,7 +99,7 @@ void Tick() {
     // a question, only who has pressed nothing may have a notice in the way, and the questions come to an end.
     EXPECT_TRUE(now.enabled || now.question || snoozed || (now.shown ? now.notice && !pressed : actions.empty()));
     EXPECT_TRUE(now.question || actions.empty() || !now.agreed.contains("take all")) << "not all are taken";
-    EXPECT_LE(now.accepted, most + 1) << "asked anew and anew";
+    EXPECT_LE(now.accepted, kMost + 1) << "asked anew and anew";
     if (!now.question) now.accepted = 0;
     if (!now.question || !now.agreed.contains("take all")) now.agreed.clear();
     m_postponedTo = Instant(0);
@@ -126,7 +126,7 @@ TEST(Consent, NothingIsTakenThatWasNotAgreedToWhateverIsSaidAndPressed) {
     for (; !next.empty(); next.pop_front()) {
         explore("tick", [] { return Tick(), true; });
         for (auto const& line : lines) explore(line, [&] { return Say(line); });
-        for (auto const& button : buttons) explore(button.name, [&] { return Press(button); });
+        for (auto const& button : kButtons) explore(button.name, [&] { return Press(button); });
     }
     EXPECT_GT(seen.size(), 100000u) << "the search has not come far";
 }

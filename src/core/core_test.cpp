@@ -157,7 +157,7 @@ TEST_F(CoreTest, AReportToAClientThatIsGoneIsNotWaitedFor) {
     client_pipe = nullptr;
 }
 
-// The answer to the first is what there is no memory for.
+// For the first there is no memory.
 TEST_F(CoreTest, ADecisionThatFailsCostsNoOther) {
     Play("+1 +2");
     for (unsigned long long id : {1, 2}) QueueCommand(UICommandType::Take, id, 0, 0);

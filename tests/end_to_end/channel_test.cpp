@@ -6,7 +6,7 @@ TEST_F(Channel, TheLargestFrameIsAcceptedAndOneByteMoreEndsTheProgram) {
     // A locale that is none changes nothing. A colour that is none makes the toolkit complain, but neither into the channel
     // nor into its own connection.
     program_ = "sh";
-    Start({{"LC_ALL", "no_SUCH.locale"}}, {"-c", "exec " PROGRAM_UNDER_TEST " -xrm '*foreground: none' 2>&-"});
+    Start({{"LC_ALL", "no_SUCH.locale"}}, {"-c", "exec '" PROGRAM_UNDER_TEST "' -xrm '*foreground: none' 2>&-"});
     Play("initialize locale");
     std::string const document = Overdue(1), blanks(kLargestPayload - document.size(), ' ');
     Program().SendFrame(blanks + document);

@@ -24,6 +24,9 @@ TEST_F(WithoutAManager, TheKeyboardGoesWhereTheUserPressesAndComesBack) {
         request id=1 title=One confirm=Sure?
         wait window ActionRequestDialog
         press form.actionListLabel
+    )");
+    Screen().PressAt(1270, 1010);
+    Play(R"(
         wait focus form.viewport
         key Down Tab Tab Return
         wait window ConfirmationDialog
@@ -33,6 +36,24 @@ TEST_F(WithoutAManager, TheKeyboardGoesWhereTheUserPressesAndComesBack) {
         wait window ActionRequestDialog
         wait focus form.viewport
     )");
+}
+
+TEST_F(WithoutAManager, ANoticeUnderThePointerLeavesTheKeyboardToWhereThePointerIs) {
+    Play(R"(
+        initialize
+        request id=1 title=One
+        wait window ActionRequestDialog
+        quiet start=-1h end=+1h
+        wait window QuietModeDialog
+        wheel form.staticlabel up
+        wait focus form.ok
+        quiet end
+        wait window QuietModeDialog gone
+    )");
+    Window focus = None;
+    int revert = 0;
+    XGetInputFocus(Screen().Connection(), &focus, &revert);
+    EXPECT_EQ(focus, Window{PointerRoot});
 }
 
 class OnASmallDisplay : public ProgramTest, public testing::WithParamInterface<bool> {

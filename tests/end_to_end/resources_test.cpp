@@ -20,9 +20,11 @@ TEST_F(Resources, OfTheInstalledExampleTakeEffect) {
     EXPECT_EQ(Background(), 0xeceff1u);
 }
 
-TEST_F(Resources, ThatTakeAllWidthAwayCostNoAnswer) {
-    Start({}, {"-xrm", "*columnSpacing: 0", "-xrm", "*internalWidth: 0", "-xrm", "*List.list: none"});
+TEST_F(Resources, ThatTakeAwayAllWidthAndReactionCostNoAnswer) {
+    Start({}, {"-xrm", "*columnSpacing: 0", "-xrm", "*internalWidth: 0", "-xrm", "*List.list: none", "-xrm",
+               "*sensitive: false"});
     Play(R"(
+        support-file _brand.xlat "This action requires you to acknowledge the following confirmation message:\t{_lf}"
         initialize
         request id=1 title="" confirm=""
         wait window ActionRequestDialog

@@ -9,11 +9,11 @@ namespace {
 
 constexpr Milliseconds kPatience = std::chrono::seconds(30);
 
-// Says it again and again, because the program may drop what comes along with something malformed.
+// Says it again and again, because the program may drop what comes along with something malformed: what starts it, too.
 template <class Say>
 void SayUntilItEnds(Subject& subject, Say say) {
-    subject.client.Initialize();
     WaitUntil(kPatience, [&] {
+        subject.client.Initialize();
         say();
         return subject.client.Program().WaitForEnd(std::chrono::seconds(1)) != "running";
     });

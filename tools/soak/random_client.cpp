@@ -141,8 +141,7 @@ void RandomClient::SendOverdue() {
 
 void RandomClient::SendUnshowable() {
     may_report_ = true;
-    answerable_.insert(++last_id_);
-    Send(Document(MessageFor({{"request"}, {{"id", std::to_string(last_id_)}, {"title", "\xff\xfe\xfd\xfc"}}})));
+    Send(Document(MessageFor({{"message"}, {{"id", std::to_string(++last_id_)}, {"title", "\xff\xfe\xfd\xfc"}}})));
 }
 
 void RandomClient::Settle() {

@@ -24,7 +24,8 @@ class RandomClient {
     void SendAnything();
     // Sends a forced action whose deadline has passed, which quiet mode does not hold up.
     void SendOverdue();
-    // Sends a request whose title cannot be shown: the program reports that and ends.
+    // Sends a notice whose title cannot be shown: the program reports that and ends. A request would wait while the user is
+    // asked something.
     void SendUnshowable();
     // Waits for the forced actions and withdraws everything that is open. Some seconds later nothing is on the screen.
     void Settle();

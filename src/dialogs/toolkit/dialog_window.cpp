@@ -1,6 +1,6 @@
 #include "dialogs/toolkit/dialog_window.h"
 
-#include <X11/Intrinsic.h>
+#include <X11/IntrinsicP.h>
 #include <X11/Shell.h>
 #include <X11/StringDefs.h>
 #include <X11/XKBlib.h>
@@ -183,7 +183,6 @@ Widget DialogWindow::AddText(char const* name, char const* text, TextTraits cons
 Widget DialogWindow::AddButton(char const* name, char const* label, std::function<void()> pressed,
                                ButtonTraits const& traits) {
     Widget button = CreateLabel(form_, name, commandWidgetClass, label, traits.below);
-    SetSensitive(button, true);  // Whatever a user's resources say.
     FixWidth(button, traits.other_labels);
     AnchorInForm(button, traits.anchor);
     OnPressed(button, pressed);
@@ -304,8 +303,7 @@ void DialogWindow::SetTitle(char const* title) {
 
 void DialogWindow::Close() {
     if (!shell_) return;
-    // Where no window manager gives the keyboard on.
-    if (focus_.IsShown() && open_windows.contains(over_) && !HasWindowManager()) TakeKeyboard(over_, CurrentTime);
+    if (focus_.IsShown()) GiveKeyboardOn();
     focus_ = {};
     for (Widget text : texts_) open_windows.erase(text);
     open_windows.erase(shell_);
@@ -314,17 +312,26 @@ void DialogWindow::Close() {
     XtDestroyWidget(std::exchange(shell_, nullptr));
 }
 
+// Without a window manager nobody else does. A keyboard that follows the pointer goes on doing so.
+void DialogWindow::GiveKeyboardOn() const {
+    auto const below = open_windows.find(over_);
+    bool const open = below != open_windows.end() && below->second->shell_ == over_;
+    if (open && !KeyboardFollowsPointer() && !HasWindowManager()) TakeKeyboard(over_, CurrentTime);
+}
+
 void LeadDialogWindows() {
-    for (auto const& [widget, window] : open_windows) SetResources(window->Shell(), {{XtNclientLeader, qenHidden}});
+    for (auto const& [widget, window] : open_windows)
+        if (widget == window->Shell()) SetResources(widget, {{XtNclientLeader, qenHidden}});
 }
 
 // Waiting for the server to confirm the position, the toolkit would look through all events that have come, at each of
-// many dialogs that open at once.
+// many dialogs that open at once. Without waiting it forgets the position until then, so it is told once more.
 void CenterDialogOnDisplay(Widget shell) {
-    int screen = DefaultScreen(display);
-    SetResources(shell, {{XtNwaitForWm, false},
-                         {XtNx, (DisplayWidth(display, screen) - WidthOf(shell)) / 2},
-                         {XtNy, (DisplayHeight(display, screen) - HeightOf(shell)) / 2}});
+    int const screen = DefaultScreen(display);
+    int const x = (DisplayWidth(display, screen) - WidthOf(shell)) / 2;
+    int const y = (DisplayHeight(display, screen) - HeightOf(shell)) / 2;
+    SetResources(shell, {{XtNwaitForWm, false}, {XtNx, x}, {XtNy, y}});
+    XtMoveWidget(shell, static_cast<Position>(x), static_cast<Position>(y));
 }
 
 void SystemMenuClose(Widget widget, XEvent const& event) {

@@ -25,7 +25,7 @@ struct LabelTraits {
     bool framed = false;
     bool left = false;   // Lines begin at the left edge rather than stand in the middle.
     int width = 0;       // Kept whatever it says; 0 fits the text.
-    int most_lines = 0;  // Text that the display is too narrow for is broken into so many lines; 0 cuts it off.
+    int most_lines = 0;  // Text that the display is too narrow for is broken into so many lines; 0 cuts its lines off.
     Anchor anchor = Anchor::TopLeft;
 };
 
@@ -97,7 +97,8 @@ class DialogWindow {
     void SetEscape(Widget button) { focus_.SetEscape(button); }
     // Puts the focus back to the first if what has it no longer reacts.
     void KeepFocusOnWhatReacts() { focus_.KeepOnWhatReacts(); }
-    // Puts the focus back to the first: after a decision, so that a key typed twice decides once.
+    // Puts the focus back to the first: after a decision, so that a key typed twice decides once, and where the buttons
+    // have come to mean another action.
     void ResetFocus() { focus_.Reset(); }
 
     // Puts a button's right edge under that of `above`, or so many pixels left of it.
@@ -116,8 +117,8 @@ class DialogWindow {
     // Asks the window manager to draw the user's attention to the window, until it gets the keyboard (ICCCM 4.1.2.4).
     void SetUrgent();
 
-    // What the toolkit hands on of keys and the wheel; whether they were meant for this window. A key may close the window,
-    // and with it end this object.
+    // What the toolkit hands on of keys, and of the pointer's buttons, the wheel's among them; whether a key was meant for
+    // this window. A key may close the window, and with it end this object.
     bool HandleKey(_XEvent const& event);
     void HandleButton(_XEvent const& event);
 
@@ -129,6 +130,7 @@ class DialogWindow {
     void HandleEvent(_XEvent const& event);
     void HandleMapped();
     void HandleFocus(bool gained);
+    void GiveKeyboardOn() const;
     void SetSmallestSize();
     void SetProperties(WindowTraits const& traits);
     void SetTitleProperty(char const* title);
@@ -154,7 +156,7 @@ void CenterDialogOnDisplay(Widget shell);
 void SystemMenuClose(Widget widget, _XEvent const& event);
 
 // Registers "SystemMenuClose", and "Nothing" for translations that swallow an event, users' own among them, and hands keys
-// and the wheel to the dialogs: once an application, before its first dialog.
+// and the pointer's buttons to the dialogs: once an application, before its first dialog.
 void RegisterDialogActions();
 
 template <class F>

@@ -69,7 +69,7 @@ TEST_F(DialogWindowTest, AKeyTurnsAPageOfTheList) {
     std::vector<AutoNullTerminated<char>> rows;
     for (int i = 0; i < 31; ++i) rows.emplace_back(row, row + 3);
     list.ShowRows(std::move(rows));
-    for (char const* name : {"Home", "Next"}) Key(KeyPress, name);
+    for (char const* name : {"Home", "Next", "Next", "Prior"}) Key(KeyPress, name);
     EXPECT_EQ(HighlightedRow(list.List()), HeightOf(list.Viewport()) / (HeightOf(list.List()) / 31) - 1);
 }
 

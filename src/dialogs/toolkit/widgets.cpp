@@ -33,6 +33,13 @@ int DimensionOf(Widget widget, char const* name) {
     return value;
 }
 
+// A widget of no size, as a user's resources could make it of one without any text, would end the process.
+void KeepSomeSize(Widget label) {
+    int const width = WidthOf(label), height = HeightOf(label);
+    if (width > 0 && height > 0) return;
+    SetResources(label, {{XtNwidth, std::max(width, 1)}, {XtNheight, std::max(height, 1)}, {XtNresize, false}});
+}
+
 // What a label shows of a text.
 std::string Showable(char const* text) {
     std::string shown;
@@ -117,14 +124,15 @@ int FirstBeside(Child const& child, std::vector<Child> const& children, int end)
 
 }  // namespace
 
+// What reacts is for the program to say, not for a user's resources.
 Widget CreateShell(char const* name, char const* application_class, Arguments arguments) {
-    auto list = ToolkitArguments({arguments});
+    auto list = ToolkitArguments({{{XtNsensitive, true}}, arguments});
     return XtAppCreateShell(name, application_class, applicationShellWidgetClass, display, list.data(),
                             static_cast<Cardinal>(list.size()));
 }
 
 Widget Create(Widget parent, char const* name, WidgetClass kind, Arguments arguments, Arguments more) {
-    auto list = ToolkitArguments({arguments, more});
+    auto list = ToolkitArguments({{{XtNsensitive, true}}, arguments, more});
     return XtCreateManagedWidget(name, kind, parent, list.data(), static_cast<Cardinal>(list.size()));
 }
 
@@ -151,10 +159,7 @@ int WidestInDisplay() {
 Widget CreateLabel(Widget form, char const* name, WidgetClass kind, char const* text, Widget below) {
     Widget label =
         Create(form, name, kind, {{XtNlabel, Showable(text).c_str()}, {XtNfromVert, below}, {XtNinternational, true}});
-    if (WidthOf(label) == 0 || HeightOf(label) == 0)
-        SetResources(
-            label,
-            {{XtNwidth, std::max(WidthOf(label), 1)}, {XtNheight, std::max(HeightOf(label), 1)}, {XtNresize, false}});
+    KeepSomeSize(label);
     return label;
 }
 
@@ -181,6 +186,7 @@ void FitToDisplay(Widget label, int most_lines) {
     if (!fonts) return;
     auto const lines = InLines(fonts, text, width, most_lines);
     if (lines != text) SetResources(label, {{XtNlabel, lines.c_str()}, {XtNresize, true}});
+    KeepSomeSize(label);
 }
 
 void FixWidth(Widget button, std::vector<char const*> const& other_texts) {

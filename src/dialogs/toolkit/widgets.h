@@ -66,7 +66,7 @@ void PutAt(Widget child, int left);
 void PutBelow(Widget child, Widget above);
 
 // A managed label or button below another child of the form. `text`, in the locale's encoding, is copied. One without any
-// text is still something: a widget of no size, as a user's resources could make it, would end the process.
+// text still has a size.
 Widget CreateLabel(Widget form, char const* name, WidgetClass kind, char const* text, Widget below);
 
 // The widest that something in a window can be to be seen whole.
