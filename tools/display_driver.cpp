@@ -78,7 +78,7 @@ std::string DisplayDriver::OutlinedControls(Window shell) {
         bool const in_form = std::ranges::count(path, '.') == 1;
         if (in_form && IsOutlined(display_.get(), AreaOf(display_.get(), widget.window))) outlined += path;
     }
-    return outlined;
+    return outlined.empty() ? "none" : outlined;
 }
 
 // A text's scroll bar is a child of its window, but no child of its widget.
@@ -100,7 +100,7 @@ void DisplayDriver::WaitUntilDrawn(Window shell) {
 }
 
 bool DisplayDriver::Point(Window window, int x, int y) {
-    XTestFakeMotionEvent(display_.get(), DefaultScreen(display_.get()), x, y, CurrentTime);
+    PointAt(x, y);
     return WindowUnderPointer(display_.get()) == window;
 }
 
@@ -115,8 +115,13 @@ void DisplayDriver::Button(unsigned button, bool down) {
     XFlush(display_.get());
 }
 
-void DisplayDriver::PressAt(int x, int y) {
+void DisplayDriver::PointAt(int x, int y) {
     XTestFakeMotionEvent(display_.get(), DefaultScreen(display_.get()), x, y, CurrentTime);
+    XFlush(display_.get());
+}
+
+void DisplayDriver::PressAt(int x, int y) {
+    PointAt(x, y);
     Button(Button1, true);
     Button(Button1, false);
 }

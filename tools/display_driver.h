@@ -56,7 +56,7 @@ class DisplayDriver {
     // The paths of all lists and buttons that are sensitive.
     std::set<std::string> SensitiveControls(Window shell);
 
-    // The path of the control that is outlined, as what has the focus is; of all of them, if there are more.
+    // The path of the control that is outlined, as what has the focus is; of all of them, if there are more, or "none".
     std::string OutlinedControls(Window shell);
 
     // What a user selects by dragging the pointer over all that is visible of a text: nothing when it is insensitive.
@@ -65,7 +65,8 @@ class DisplayDriver {
     // Returns once the program has handled every event sent before, and drawn what follows from them.
     void WaitUntilDrawn(Window shell);
 
-    // A click wherever that is on the screen.
+    // The pointer, and a click, wherever that is on the screen.
+    void PointAt(int x, int y);
     void PressAt(int x, int y);
     // With the pointer: a click into the middle of what is visible of a widget, and the same on a button once it answers
     // to the pointer, as a sensitive one does by its frame.

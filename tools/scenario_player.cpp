@@ -85,6 +85,7 @@ void ScenarioPlayer::PlayLine(ScenarioLine const& line) {
         {"wheel", &ScenarioPlayer::TurnWheel},
         {"resize", &ScenarioPlayer::Resize},
         {"work", &ScenarioPlayer::Work},
+        {"point", &ScenarioPlayer::Point},
         {"screenshot", &ScenarioPlayer::Screenshot},
         {"open", &ScenarioPlayer::Open},
         {"close", &ScenarioPlayer::Close},
@@ -220,6 +221,10 @@ void ScenarioPlayer::TurnWheel(ScenarioLine const& line) {
 void ScenarioPlayer::Resize(ScenarioLine const& line) {
     auto const pixels = [&](size_t word) { return static_cast<unsigned>(std::stoul(line.Word(word))); };
     if (!options_.interactive) Screen().Resize(window_, pixels(1), pixels(2));
+}
+
+void ScenarioPlayer::Point(ScenarioLine const& line) {
+    if (!options_.interactive) Screen().PointAt(std::stoi(line.Word(1)), std::stoi(line.Word(2)));
 }
 
 void ScenarioPlayer::Work(ScenarioLine const& line) {

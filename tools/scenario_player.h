@@ -59,6 +59,7 @@ class ScenarioPlayer {
     void Type(ScenarioLine const& line);
     void TurnWheel(ScenarioLine const& line);
     void Resize(ScenarioLine const& line);
+    void Point(ScenarioLine const& line);
     void Work(ScenarioLine const& line);
     void Screenshot(ScenarioLine const& line);
     void Open(ScenarioLine const& line);

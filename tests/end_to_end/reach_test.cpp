@@ -2,12 +2,12 @@
 
 // Whom the dialogs reach: somebody who works in another window, and somebody without a mouse.
 
-// A window manager and a scenario.
+// A window manager, or none, and a scenario.
 class UnderManager : public ProgramTest, public testing::WithParamInterface<std::tuple<char const*, char const*>> {};
 
 TEST_P(UnderManager, EverybodyIsReached) {
     auto const [manager, scenario] = GetParam();
-    Display().StartWindowManager(manager);
+    if (*manager) Display().StartWindowManager(manager);
     Play(tools::ReadFile(std::filesystem::path(REACH) / scenario));
 }
 
@@ -16,45 +16,7 @@ INSTANTIATE_TEST_SUITE_P(Reach, UnderManager,
                                           testing::Values("working-elsewhere.scenario", "without-a-mouse.scenario",
                                                           "stray-keys.scenario")));
 
-class WithoutAManager : public ProgramTest {};
-
-TEST_F(WithoutAManager, TheKeyboardGoesWhereTheUserPressesAndComesBack) {
-    Play(R"(
-        initialize
-        request id=1 title=One confirm=Sure?
-        wait window ActionRequestDialog
-        press form.actionListLabel
-    )");
-    Screen().PressAt(1270, 1010);
-    Play(R"(
-        wait focus form.viewport
-        key Down Tab Tab Return
-        wait window ConfirmationDialog
-        wait focus form.cancel
-        key Escape
-        wait window ConfirmationDialog gone
-        wait window ActionRequestDialog
-        wait focus form.viewport
-    )");
-}
-
-TEST_F(WithoutAManager, ANoticeUnderThePointerLeavesTheKeyboardToWhereThePointerIs) {
-    Play(R"(
-        initialize
-        request id=1 title=One
-        wait window ActionRequestDialog
-        quiet start=-1h end=+1h
-        wait window QuietModeDialog
-        wheel form.staticlabel up
-        wait focus form.ok
-        quiet end
-        wait window QuietModeDialog gone
-    )");
-    Window focus = None;
-    int revert = 0;
-    XGetInputFocus(Screen().Connection(), &focus, &revert);
-    EXPECT_EQ(focus, Window{PointerRoot});
-}
+INSTANTIATE_TEST_SUITE_P(ReachAlone, UnderManager, testing::Values(std::tuple("", "without-a-manager.scenario")));
 
 class OnASmallDisplay : public ProgramTest, public testing::WithParamInterface<bool> {
   protected:
