@@ -335,6 +335,9 @@ TEST_F(DialogsTest, LineEndsOfOtherSystemsAndUnencodableTitlesDoNoHarm) {
     Show();
     SelectRow(0);
     EXPECT_THAT(Text(InDialog("form.actiontitle"), XtNlabel), testing::StartsWith("a  b c"));
+    XawListReturnStruct* const row = XawListShowCurrent(ListIn("form.viewport"));
+    EXPECT_THAT(row->string, testing::StartsWith("a  b c"));
+    XtFree(reinterpret_cast<char*>(row));
     EXPECT_THAT(Text(InDialog("form.actiondesc"), XtNstring), testing::StartsWith("one\ntwo\n"));
     auto message = Message(1);
     message.title = actions.begin()->title;
@@ -369,7 +372,10 @@ TEST_F(DialogsTest, TheQuietNoticeKeepsItsFirstTimesAndIsNoAnswerWhenItGoes) {
 TEST_F(DialogsTest, MessagesAreKnownByTheirIDsAndAnUpdateDecidesWhetherTheyEnd) {
     auto completed = Message(1);
     completed.is_completion_message = true;
-    ShowMessageDialog(completed);
+    auto* const connection = std::exchange(display, nullptr);
+    for (auto const& waiting : {completed, Message(2)}) ShowMessageDialog(waiting);
+    display = connection;
+    OpenWaitingMessageDialogs();
     Widget const first = Shells("MessageDialog").at(0);
     EXPECT_EQ(Text(first, XtNtitle), "Corvane notification:");
     EXPECT_EQ(Text(Find(first, "form.actionmessage"), XtNstring), "Action \"\"{x}\"\" has completed.");
