@@ -51,9 +51,26 @@ DialogWindow* DialogOf(Window window) {
     return found == open_windows.end() ? nullptr : found->second;
 }
 
+// Whether the key has been held down since its last press, in whichever window that was. The release may have gone to
+// another program: after a while without a press there was one.
+bool IsRepeated(XKeyEvent const& key) {
+    constexpr Time kLongestPause = 1000;  // Milliseconds, above the delay before a key repeats.
+    static std::map<unsigned, Time> pressed;
+    if (key.type == KeyRelease) {
+        pressed.erase(key.keycode);
+        return false;
+    }
+    auto const [last, first] = pressed.try_emplace(key.keycode, key.time);
+    bool const held = !first && key.time - last->second < kLongestPause;
+    last->second = key.time;
+    return held;
+}
+
+// The release of a key that has closed its window comes here, too, though the window has gone.
 bool FilterKey(XEvent const& event) {
+    bool const repeated = IsRepeated(event.xkey);
     DialogWindow* dialog = DialogOf(event.xany.window);
-    return dialog && dialog->HandleKey(event);
+    return dialog && dialog->HandleKey(event, repeated);
 }
 
 // The wheel is four buttons, of which the toolkit's own widgets know some; the others are for it.
@@ -83,21 +100,6 @@ bool KeyboardFollowsPointer() {
     int revert = 0;
     XGetInputFocus(display, &focus, &revert);
     return focus == PointerRoot;
-}
-
-// Whether the key has been held down since its last press, in whichever window that was. The release may have gone to
-// another program: after a while without a press there was one.
-bool IsRepeated(XKeyEvent const& key) {
-    constexpr Time kLongestPause = 1000;  // Milliseconds, above the delay before a key repeats.
-    static std::map<unsigned, Time> pressed;
-    if (key.type == KeyRelease) {
-        pressed.erase(key.keycode);
-        return false;
-    }
-    auto const [last, first] = pressed.try_emplace(key.keycode, key.time);
-    bool const held = !first && key.time - last->second < kLongestPause;
-    last->second = key.time;
-    return held;
 }
 
 // Xlib writes what the locale has, and some locales have more than there is.
@@ -255,9 +257,8 @@ void DialogWindow::SetUrgent() {
     if (shell_ && !focus_.IsShown()) SetResources(shell_, {{XtNurgency, true}});
 }
 
-bool DialogWindow::HandleKey(XEvent const& event) {
+bool DialogWindow::HandleKey(XEvent const& event, bool repeated) {
     auto key = event.xkey;
-    bool const repeated = IsRepeated(key);
     // With other modifiers a key means something to whoever watches for them, and nothing here.
     if (event.type == KeyRelease || (key.state & (ControlMask | Mod1Mask | Mod4Mask)) != 0) return false;
     KeySym const meaning = XLookupKeysym(&key, (key.state & ShiftMask) != 0 ? 1 : 0);

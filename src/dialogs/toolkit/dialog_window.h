@@ -118,8 +118,8 @@ class DialogWindow {
     void SetUrgent();
 
     // What the toolkit hands on of keys, and of the pointer's buttons, the wheel's among them; whether a key was meant for
-    // this window. A key may close the window, and with it end this object.
-    bool HandleKey(_XEvent const& event);
+    // this window. `repeated` says that it is held down. A key may close the window, and with it end this object.
+    bool HandleKey(_XEvent const& event, bool repeated);
     void HandleButton(_XEvent const& event);
 
     // Destroys the window, if it is open.

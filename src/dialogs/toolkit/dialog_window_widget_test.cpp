@@ -32,11 +32,14 @@ struct DialogWindowTest : testing::Test {
     void Key(int type, char const* name, unsigned state = 0, Time time = 0) {
         XEvent key{};
         key.type = type;
+        key.xkey.display = display;
         key.xkey.window = XtWindow(text);
         key.xkey.time = time;
         key.xkey.state = state;
         key.xkey.keycode = XKeysymToKeycode(display, XStringToKeysym(name));
-        XSendEvent(display, key.xkey.window, False, KeyPressMask | KeyReleaseMask, &key);
+        // As if the press had closed the window.
+        if (type == KeyRelease) key.xkey.window = DefaultRootWindow(display), XtDispatchEvent(&key);
+        if (type == KeyPress) XSendEvent(display, key.xkey.window, False, KeyPressMask, &key);
         XSync(display, False);
         while (XtAppPending(app_context) & XtIMXEvent) XtAppProcessEvent(app_context, XtIMXEvent);
     }
